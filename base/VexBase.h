@@ -1,0 +1,21 @@
+// VexBase.h - the whole interface of the vexbase library in one include.
+//
+// VexBase is the base library of the Vex hydrographic survey and dredging
+// suite. Everything is in namespace vex. Times are milliseconds since
+// 1970-01-01 UTC, text is UTF-16 (vex::CString), coordinates are x east,
+// y north, z up, bearings in degrees clockwise from north.
+//
+//   #include <base/VexBase.h>
+//   vex::CString text;
+//   text.Format(u"%.2f", 1.5);
+#pragma once
+
+#include <base/Export.h>
+#include <base/framework/Framework.h>
+
+namespace vex {
+
+// The library's version as "major.minor.patch".
+VEXBASE_API const char* VersionString();
+
+}  // namespace vex

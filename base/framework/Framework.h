@@ -1,0 +1,16 @@
+// Framework.h - the portable stand-ins for the Windows framework's types:
+// strings, printf/scanf-style formatting, small graphics value types, file
+// flags and utilities, and the library's string table.
+#pragma once
+
+#include <base/framework/CFile.h>
+#include <base/framework/CPoint.h>
+#include <base/framework/CRect.h>
+#include <base/framework/CString.h>
+#include <base/framework/ColorRef.h>
+#include <base/framework/Dcb.h>
+#include <base/framework/Format.h>
+#include <base/framework/PaletteEntry.h>
+#include <base/framework/Scan.h>
+#include <base/framework/StringResources.h>
+#include <base/framework/TextEncoding.h>

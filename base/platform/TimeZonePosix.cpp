@@ -1,0 +1,37 @@
+#include <base/platform/TimeZone.h>
+
+#include <time.h>
+
+namespace vex::platform {
+
+void RefreshTimeZone() {
+    tzset();
+}
+
+long TimeZoneOffsetSeconds() {
+    tzset();
+    return timezone;
+}
+
+bool IsDaylightSavingTime(std::time_t when) {
+    tm fields{};
+    return localtime_r(&when, &fields) != nullptr && fields.tm_isdst > 0;
+}
+
+bool LocalCalendar(std::time_t when, std::tm& out) {
+    return localtime_r(&when, &out) != nullptr;
+}
+
+bool UtcCalendar(std::time_t when, std::tm& out) {
+    return gmtime_r(&when, &out) != nullptr;
+}
+
+std::time_t FromLocalCalendar(std::tm& fields) {
+    return mktime(&fields);
+}
+
+std::time_t FromUtcCalendar(std::tm& fields) {
+    return timegm(&fields);
+}
+
+}  // namespace vex::platform
