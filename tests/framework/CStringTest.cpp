@@ -170,6 +170,9 @@ TEST(CString, TokenizeSkipsRunsOfDelimitersAndEndsWithMinusOne) {
         EXPECT_TRUE(s.Tokenize(delimiters, pos).IsEmpty());  // stays finished
         EXPECT_EQ(pos, -1);
     }
+    int pos = 0;
+    EXPECT_EQ(CString(u"ab;c").Tokenize(u";", pos), u"ab");
+    EXPECT_EQ(pos, 3);  // just past the delimiter that ended the token
 }
 
 TEST(CString, ComparisonsOrderByCodeUnitOrIgnoringCase) {
