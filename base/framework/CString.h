@@ -299,7 +299,10 @@ class CStringT {
     }
     template <class... Args>
     void AppendFormat(ViewType format, const Args&... args) {
-        AppendTo(s_, format, args...);
+        // Formatted apart first: an argument may be this string itself.
+        StringType out;
+        AppendTo(out, format, args...);
+        s_.append(out);
     }
 
     // --- comparison ------------------------------------------------------
