@@ -2,6 +2,7 @@
 
 #include <base/framework/TextEncoding.h>
 
+#include <array>
 #include <charconv>
 #include <climits>
 #include <cmath>
@@ -134,6 +135,49 @@ char SignChar(bool negative, unsigned flags) {
     return 0;
 }
 
+// Writes the digits of v in base 8, 10 or 16 so that they end at end;
+// returns where they begin. Faster than std::to_chars with a run-time base.
+char* WriteDigits(char* end, unsigned long long v, int base, bool upper) {
+    static constexpr auto kPairs = [] {
+        std::array<char, 200> pairs{};
+        for (int i = 0; i < 100; ++i) {
+            pairs[static_cast<std::size_t>(2 * i)] = static_cast<char>('0' + i / 10);
+            pairs[static_cast<std::size_t>(2 * i + 1)] = static_cast<char>('0' + i % 10);
+        }
+        return pairs;
+    }();
+    char* p = end;
+    if (base == 10) {
+        while (v > 0xFFFFFFFFu) {
+            p -= 2;
+            std::memcpy(p, &kPairs[2 * (v % 100)], 2);
+            v /= 100;
+        }
+        // 32-bit division is much cheaper, and most values fit.
+        auto w = static_cast<std::uint32_t>(v);
+        while (w >= 100) {
+            p -= 2;
+            std::memcpy(p, &kPairs[2 * (w % 100)], 2);
+            w /= 100;
+        }
+        if (w >= 10) {
+            p -= 2;
+            std::memcpy(p, &kPairs[2 * w], 2);
+        } else {
+            *--p = static_cast<char>('0' + w);
+        }
+    } else {
+        const char* const hex = upper ? "0123456789ABCDEF" : "0123456789abcdef";
+        const int shift = base == 16 ? 4 : 3;
+        const unsigned long long mask = static_cast<unsigned long long>(base - 1);
+        do {
+            *--p = hex[v & mask];
+            v >>= shift;
+        } while (v != 0);
+    }
+    return p;
+}
+
 template <class Ch>
 void FormatInteger(std::basic_string<Ch>& out, const Spec& spec, const FormatArg& arg) {
     const unsigned long long raw = IntegerBits(arg);
@@ -150,16 +194,13 @@ void FormatInteger(std::basic_string<Ch>& out, const Spec& spec, const FormatArg
         base = spec.conv == 'o' ? 8 : (spec.conv == 'u' ? 10 : 16);
     }
 
-    char digits[24];
-    std::size_t count = 0;
+    char buffer[24];
+    char* const end = buffer + sizeof buffer;
+    const char* digits = end;
     if (magnitude != 0 || spec.precision != 0) {
-        count = static_cast<std::size_t>(
-            std::to_chars(digits, digits + sizeof digits, magnitude, base).ptr - digits);
-        if (spec.conv == 'X') {
-            for (std::size_t i = 0; i < count; ++i)
-                if (digits[i] >= 'a') digits[i] = static_cast<char>(digits[i] - 'a' + 'A');
-        }
+        digits = WriteDigits(end, magnitude, base, spec.conv == 'X');
     }
+    const std::size_t count = static_cast<std::size_t>(end - digits);
     const std::size_t precision = spec.precision < 0 ? 0 : static_cast<std::size_t>(spec.precision);
     std::size_t zeros = precision > count ? precision - count : 0;
 
@@ -167,7 +208,7 @@ void FormatInteger(std::basic_string<Ch>& out, const Spec& spec, const FormatArg
     std::size_t prefixLength = 0;
     if (sign) prefix[prefixLength++] = sign;
     if (spec.flags & kAlt) {
-        if (base == 8 && zeros == 0 && (count == 0 || digits[0] != '0')) zeros = 1;
+        if (base == 8 && zeros == 0 && (count == 0 || *digits != '0')) zeros = 1;
         if (base == 16 && magnitude != 0) {
             prefix[prefixLength++] = '0';
             prefix[prefixLength++] = spec.conv;
@@ -294,9 +335,9 @@ void FormatPointer(std::basic_string<Ch>& out, Spec spec, const FormatArg& arg) 
     char prefix[3] = {0, '0', 'x'};
     const char sign = SignChar(false, spec.flags);
     if (sign) prefix[0] = sign;
-    char digits[24];
-    const std::size_t count = static_cast<std::size_t>(
-        std::to_chars(digits, digits + sizeof digits, address, 16).ptr - digits);
+    char buffer[24];
+    const char* const digits = WriteDigits(buffer + sizeof buffer, address, 16, false);
+    const std::size_t count = static_cast<std::size_t>(buffer + sizeof buffer - digits);
     const std::size_t precision = spec.precision < 0 ? 0 : static_cast<std::size_t>(spec.precision);
     AppendNumber(out, spec, std::string_view(sign ? prefix : prefix + 1, sign ? 3 : 2),
                  precision > count ? precision - count : 0, std::string_view(digits, count),
@@ -439,6 +480,14 @@ bool IsDigit(unsigned c) {
     return c >= '0' && c <= '9';
 }
 
+// The conversion letters, by character code.
+constexpr auto kIsConversion = [] {
+    std::array<bool, 128> table{};
+    for (char c : std::string_view("diuoxXcCsSfFeEgGaApn%"))
+        table[static_cast<unsigned char>(c)] = true;
+    return table;
+}();
+
 // Reads a decimal field width or precision, clamped to kMaxField.
 template <class Ch>
 int ReadNumber(const Ch*& p, const Ch* end) {
@@ -556,9 +605,7 @@ void FormatImpl(std::basic_string<Ch>& out, std::basic_string_view<Ch> format,
         }
         spec.bits = ReadSize(p, end);
         const unsigned conv = p < end ? static_cast<unsigned>(*p) : 0u;
-        static constexpr std::string_view kConversions = "diuoxXcCsSfFeEgGaApn%";
-        if (conv == 0 || conv > 0x7F ||
-            kConversions.find(static_cast<char>(conv)) == std::string_view::npos) {
+        if (conv >= kIsConversion.size() || !kIsConversion[conv]) {
             // Not a conversion: the text stands as written.
             out.append(percent, static_cast<std::size_t>(p - percent));
             continue;
