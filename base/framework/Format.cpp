@@ -530,6 +530,9 @@ int ReadSize(const Ch*& p, const Ch* end) {
         case 't':
             ++p;
             return static_cast<int>(sizeof(std::ptrdiff_t) * CHAR_BIT);
+        case 'w':  // Windows' wide-text mark ("%ws"); text converts by its type
+            ++p;
+            return 32;
         case 'I':  // the Windows prefixes I64, I32 and I (pointer-sized)
             if (at(1) == '6' && at(2) == '4') {
                 p += 3;

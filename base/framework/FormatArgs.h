@@ -64,8 +64,8 @@ struct ScanArg {
         LongDouble,
         NarrowString,  // std::string*
         Utf16String,   // std::u16string*
-        NarrowBuffer,  // char[capacity], NUL-terminated by the scanner
-        Utf16Buffer,   // char16_t[capacity], NUL-terminated by the scanner
+        NarrowBuffer,  // char[capacity]; %s and %[ end the text with a NUL
+        Utf16Buffer,   // char16_t[capacity]; %s and %[ end the text with a NUL
     };
 
     Kind kind = Kind::Int32;

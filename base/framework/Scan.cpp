@@ -12,30 +12,9 @@
 #include <string_view>
 #include <type_traits>
 
-// The scanner follows the C standard's reading rules, which current glibc
-// also follows: a conversion reads the longest text that is, or begins, a
-// valid field, and fails when that text is not a valid field ("0x" with no
-// hex digit, "1e" with no exponent digits, a %5c field cut short by the
-// end of the text). Every character is read once; a failed field leaves
-// its characters consumed, which only matters for %n and the count.
-//
-// Open points, decided here:
-// - Integers are converted as strtoll / strtoull convert them (64 bits,
-//   saturating; %u negates modulo 2^64), cut to the width of the size prefix
-//   (none = 32 bits, h = 16, hh = 8, l = the platform's long, ll L q j I64 =
-//   64, z t I = pointer size, I32 = 32), then stored in the target's type.
-// - A floating field is converted at the precision of its target (float,
-//   double, long double) whatever the prefix, so "%f" into a double loses
-//   nothing.
-// - A %s or %[ field longer than a char / char16_t array is cut to what fits
-//   before the terminating NUL; it is consumed whole and counts as
-//   converted. %c into an array stores at most its size and adds no NUL.
-// - %c into a single character (char*, char16_t*, any integer target) stores
-//   the first character's code; %s and %[ into a number, or a number into a
-//   string target, is a matching failure, as is a conversion with no target
-//   left.
-// - Narrow targets of UTF-16 text, and UTF-16 targets of narrow text, get
-//   the text converted through the active code page.
+// The scanner reads one character at a time with one character of push-back,
+// as the C library's scanf does, so that what a field consumes (and so %n
+// and the count) matches it exactly. The rules are documented in Scan.h.
 
 namespace vex {
 namespace {
@@ -326,6 +305,9 @@ int Scanner<Ch>::Run() {
                 bits = static_cast<int>(sizeof(std::size_t) * CHAR_BIT);
                 ++fi_;
                 break;
+            case 'w':  // Windows' wide-text mark ("%ws"); the target decides
+                ++fi_;
+                break;
             case 'I':  // the Windows prefixes I64, I32 and I (pointer-sized)
                 if (FormatAt(fi_ + 1) == '6' && FormatAt(fi_ + 2) == '4') {
                     bits = 64;
@@ -574,6 +556,7 @@ typename Scanner<Ch>::Step Scanner<Ch>::Floating(const ScanArg* target) {
             if (IsDigit(c) || (hex && !gotExponent && IsHexDigit(c))) {
                 gotDigit = true;
             } else if (wasAfterExponent && (c == '-' || c == '+')) {
+                // the exponent's sign
             } else if (gotDigit && !gotExponent && ToLower(c) == exponentChar) {
                 gotExponent = gotDot = afterExponent = true;
                 gotDigit = false;  // the exponent needs digits of its own

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cfloat>
 #include <cmath>
@@ -16,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <random>
 #include <string>
@@ -144,27 +146,35 @@ struct FormatCase {
     int starCount = 0;
 };
 
-// Runs one case through snprintf and vex::Format; any difference fails
-// with the format and the value.
+std::u16string Widen(const std::string& ascii) {
+    return std::u16string(ascii.begin(), ascii.end());
+}
+
+template <class Text, class V>
+Text VexFormat(const FormatCase& k, const Text& format, V v) {
+    if (k.starCount == 0) return Format(format, v);
+    if (k.starCount == 1) return Format(format, k.stars[0], v);
+    return Format(format, k.stars[0], k.stars[1], v);
+}
+
+// Runs one case through snprintf and vex::Format, in narrow and in UTF-16
+// text; any difference fails with the format and the value.
 template <class C, class V>
 void ExpectSameAsPrintf(const FormatCase& k, C c, V v, const std::string& valueText) {
     char buffer[2048];
     const char* f = k.format.c_str();
     int n = 0;
-    std::string actual;
     if (k.starCount == 0) {
         n = std::snprintf(buffer, sizeof buffer, f, c);
-        actual = Format(k.format, v);
     } else if (k.starCount == 1) {
         n = std::snprintf(buffer, sizeof buffer, f, k.stars[0], c);
-        actual = Format(k.format, k.stars[0], v);
     } else {
         n = std::snprintf(buffer, sizeof buffer, f, k.stars[0], k.stars[1], c);
-        actual = Format(k.format, k.stars[0], k.stars[1], v);
     }
     ASSERT_TRUE(n >= 0 && n < static_cast<int>(sizeof buffer)) << k.format;
     const std::string expected(buffer, static_cast<std::size_t>(n));
-    if (actual != expected) {
+    const std::string actual = VexFormat(k, k.format, v);
+    if (actual != expected || VexFormat(k, Widen(k.format), v) != Widen(expected)) {
         ADD_FAILURE() << "format \"" << k.format << "\" stars " << k.stars[0] << "," << k.stars[1]
                       << " value " << valueText << "\n  printf: \"" << expected
                       << "\"\n  vex:    \"" << actual << "\"";
@@ -385,9 +395,9 @@ TEST(FormatOracle, CharactersStringsAndPointersMatchPrintf) {
 
 // --- scanning -----------------------------------------------------------
 
-// Which of the C standard's reading rules this C library breaks; older
-// glibc (before 2.42 or so) and mingw-w64 accept some fields that the
-// standard calls matching failures, so those fields are not compared there.
+// Which of the C standard's reading rules this C library breaks: older glibc
+// and mingw-w64 accept some fields that the standard calls matching
+// failures, so those fields are not compared there.
 struct LibcQuirks {
     bool hexPrefixAlone;      // "%x" of "0xg" gives 0
     bool emptyExponent;       // "%lf" of "1ex" gives 1
@@ -517,14 +527,17 @@ std::string ScanInput(Generator& g) {
     return s;
 }
 
-// The C and vex targets of one case, both filled with the same bytes first.
+// The C and vex targets of one case (vex reads narrow and UTF-16 text),
+// all filled with the same bytes first.
 template <class T>
 struct Targets {
     T c;
     T v;
+    T v16;
     Targets() {
         std::memset(&c, 0x5A, sizeof c);
         std::memset(&v, 0x5A, sizeof v);
+        std::memset(&v16, 0x5A, sizeof v16);
     }
 };
 
@@ -545,29 +558,42 @@ void ExpectSameAsScanf(const std::string& input, const std::string& format,
     Targets<T> t;
     int nc = -7;
     int nv = -7;
+    int nv16 = -7;
     const int rc = suppress ? std::sscanf(input.c_str(), format.c_str(), &nc)
                             : std::sscanf(input.c_str(), format.c_str(), &t.c, &nc);
     const int rv = suppress ? Scan(input, vexFormat, &nv) : Scan(input, vexFormat, &t.v, &nv);
-    if (rc != rv || nc != nv || (rc >= 1 && compareValue && !SameValue(t.c, t.v))) {
+    const std::u16string input16 = Widen(input);
+    const std::u16string format16 = Widen(vexFormat);
+    const int rv16 =
+        suppress ? Scan(input16, format16, &nv16) : Scan(input16, format16, &t.v16, &nv16);
+    const bool valuesDiffer =
+        rc >= 1 && compareValue && (!SameValue(t.c, t.v) || !SameValue(t.c, t.v16));
+    if (rc != rv || rc != rv16 || nc != nv || nc != nv16 || valuesDiffer) {
         ADD_FAILURE() << "input \"" << input << "\" format \"" << format << "\": scanf " << rc
-                      << " n " << nc << ", vex " << rv << " n " << nv;
+                      << " n " << nc << ", vex " << rv << " n " << nv << ", UTF-16 " << rv16;
     }
 }
 
 void ExpectSameAsScanfText(const std::string& input, const std::string& format, bool suppress) {
     char c[64];
     char v[64];
+    char16_t v16[64];
     std::memset(c, '#', sizeof c);
     std::memset(v, '#', sizeof v);
+    std::fill(std::begin(v16), std::end(v16), u'#');
     int nc = -7;
     int nv = -7;
+    int nv16 = -7;
     const int rc = suppress ? std::sscanf(input.c_str(), format.c_str(), &nc)
                             : std::sscanf(input.c_str(), format.c_str(), c, &nc);
     const int rv = suppress ? Scan(input, format, &nv) : Scan(input, format, v, &nv);
-    if (rc != rv || nc != nv || std::memcmp(c, v, sizeof c) != 0) {
+    const int rv16 = suppress ? Scan(Widen(input), Widen(format), &nv16)
+                              : Scan(Widen(input), Widen(format), v16, &nv16);
+    if (rc != rv || rc != rv16 || nc != nv || nc != nv16 || std::memcmp(c, v, sizeof c) != 0 ||
+        Widen(std::string(c, sizeof c)) != std::u16string(v16, 64)) {
         ADD_FAILURE() << "input \"" << input << "\" format \"" << format << "\": scanf " << rc
                       << " n " << nc << " \"" << std::string(c, 8) << "\", vex " << rv << " n "
-                      << nv << " \"" << std::string(v, 8) << "\"";
+                      << nv << " \"" << std::string(v, 8) << "\", UTF-16 " << rv16;
     }
 }
 

@@ -62,7 +62,7 @@ TEST(Format, MismatchedArgumentsAreConverted) {
         {Format("%hd|%hhu|%hhd", 70000, 300, 200), "4464|44|-56"},
         {Format("%s|%s|%s", 42, -7LL, 2.5), "42|-7|2.5"},
         {Format("%d|%5d|%-4f|", "text", std::string("ab"), "cd"), "text|   ab|cd  |"},
-        {Format("%c%c", 65, 'b'), "Ab"},
+        {Format("%c%c|%ws", 65, 'b', u"w"), "Ab|w"},
         {Format("%p|%p|%8p|%s", nullptr, reinterpret_cast<void*>(0x1234), nullptr, nullptr),
          "(nil)|0x1234|   (nil)|(null)"},
     };

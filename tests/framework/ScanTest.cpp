@@ -35,7 +35,7 @@ TEST(Scan, IntegerFieldsFollowTheCRules) {
         {"019", "%lli%n", 1, 1, 2},
         {"0x7", "%llo%n", 1, 0, 1},
         {"0x7", "%lld%n", 1, 0, 1},
-        // "0x" without a hex digit is a matching failure (glibc before 2.42
+        // "0x" without a hex digit is a matching failure (older glibc
         // converted the 0).
         {"0xg", "%llx%n", 0, 0, -1},
         {"0x12", "%2llx%n", 0, 0, -1},
@@ -85,11 +85,19 @@ TEST(Scan, FloatingFieldsFollowTheCRules) {
         double value;
         int consumed;
     } cases[] = {
-        {"3.25", 1, 3.25, 4},      {"-.5e1x", 1, -5, 5},    {"0x1.8p1", 1, 3, 7},
-        {"1e", 0, 0, -1},  // an exponent needs digits (older glibc read 1)
-        {"1e+", 0, 0, -1},         {"0x", 0, 0, -1},        {".", 0, 0, -1},
-        {"-INFINITY", 1, -inf, 9}, {"infx", 1, inf, 3},     {"infin", 0, 0, -1},
-        {"1e999", 1, inf, 5},      {"-1e-999", 1, -0.0, 7},
+        {"3.25", 1, 3.25, 4},
+        {"-.5e1x", 1, -5, 5},
+        {"0x1.8p1", 1, 3, 7},
+        // An exponent needs digits (older glibc read "1e" as 1).
+        {"1e", 0, 0, -1},
+        {"1e+", 0, 0, -1},
+        {"0x", 0, 0, -1},
+        {".", 0, 0, -1},
+        {"-INFINITY", 1, -inf, 9},
+        {"infx", 1, inf, 3},
+        {"infin", 0, 0, -1},
+        {"1e999", 1, inf, 5},
+        {"-1e-999", 1, -0.0, 7},
     };
     for (const auto& c : cases) {
         double value = 0;
