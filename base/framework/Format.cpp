@@ -23,7 +23,9 @@ constexpr int kMaxField = 1 << 20;
 
 enum : unsigned { kLeft = 1, kPlus = 2, kSpace = 4, kAlt = 8, kZero = 16 };
 
-struct Spec {
+// One conversion of the format: "%-08.3lf" has flags - and 0, width 8,
+// precision 3, the bits of the l prefix and the letter f.
+struct Field {
     unsigned flags = 0;
     int width = 0;
     int precision = -1;  // -1: none given
@@ -97,24 +99,24 @@ void AppendAscii(std::basic_string<Ch>& out, std::string_view text) {
 
 // Pads text of the output width to the field width with spaces.
 template <class Ch>
-void AppendPadded(std::basic_string<Ch>& out, const Spec& spec, const Ch* text, std::size_t n) {
-    const std::size_t width = static_cast<std::size_t>(spec.width);
+void AppendPadded(std::basic_string<Ch>& out, const Field& field, const Ch* text, std::size_t n) {
+    const std::size_t width = static_cast<std::size_t>(field.width);
     const std::size_t pad = width > n ? width - n : 0;
-    if (!(spec.flags & kLeft)) out.append(pad, Ch(' '));
+    if (!(field.flags & kLeft)) out.append(pad, Ch(' '));
     out.append(text, n);
-    if (spec.flags & kLeft) out.append(pad, Ch(' '));
+    if (field.flags & kLeft) out.append(pad, Ch(' '));
 }
 
 // Writes prefix (sign, "0x"), zeros and digits, padded to the field width:
 // with spaces after them for '-', with more zeros after the prefix when
 // zeroPad, else with spaces before them.
 template <class Ch>
-void AppendNumber(std::basic_string<Ch>& out, const Spec& spec, std::string_view prefix,
+void AppendNumber(std::basic_string<Ch>& out, const Field& field, std::string_view prefix,
                   std::size_t zeros, std::string_view body, bool zeroPad) {
     const std::size_t length = prefix.size() + zeros + body.size();
-    const std::size_t width = static_cast<std::size_t>(spec.width);
+    const std::size_t width = static_cast<std::size_t>(field.width);
     std::size_t pad = width > length ? width - length : 0;
-    if (!(spec.flags & kLeft)) {
+    if (!(field.flags & kLeft)) {
         if (zeroPad) {
             zeros += pad;
         } else {
@@ -179,43 +181,44 @@ char* WriteDigits(char* end, unsigned long long v, int base, bool upper) {
 }
 
 template <class Ch>
-void FormatInteger(std::basic_string<Ch>& out, const Spec& spec, const FormatArg& arg) {
+void FormatInteger(std::basic_string<Ch>& out, const Field& field, const FormatArg& arg) {
     const unsigned long long raw = IntegerBits(arg);
     unsigned long long magnitude = 0;
     char sign = 0;
     int base = 10;
-    if (spec.conv == 'd' || spec.conv == 'i') {
-        const long long v = TruncateSigned(raw, spec.bits);
+    if (field.conv == 'd' || field.conv == 'i') {
+        const long long v = TruncateSigned(raw, field.bits);
         magnitude =
             v < 0 ? 0ull - static_cast<unsigned long long>(v) : static_cast<unsigned long long>(v);
-        sign = SignChar(v < 0, spec.flags);
+        sign = SignChar(v < 0, field.flags);
     } else {
-        magnitude = TruncateUnsigned(raw, spec.bits);
-        base = spec.conv == 'o' ? 8 : (spec.conv == 'u' ? 10 : 16);
+        magnitude = TruncateUnsigned(raw, field.bits);
+        base = field.conv == 'o' ? 8 : (field.conv == 'u' ? 10 : 16);
     }
 
     char buffer[24];
     char* const end = buffer + sizeof buffer;
     const char* digits = end;
-    if (magnitude != 0 || spec.precision != 0) {
-        digits = WriteDigits(end, magnitude, base, spec.conv == 'X');
+    if (magnitude != 0 || field.precision != 0) {
+        digits = WriteDigits(end, magnitude, base, field.conv == 'X');
     }
     const std::size_t count = static_cast<std::size_t>(end - digits);
-    const std::size_t precision = spec.precision < 0 ? 0 : static_cast<std::size_t>(spec.precision);
+    const std::size_t precision =
+        field.precision < 0 ? 0 : static_cast<std::size_t>(field.precision);
     std::size_t zeros = precision > count ? precision - count : 0;
 
     char prefix[3];
     std::size_t prefixLength = 0;
     if (sign) prefix[prefixLength++] = sign;
-    if (spec.flags & kAlt) {
+    if (field.flags & kAlt) {
         if (base == 8 && zeros == 0 && (count == 0 || *digits != '0')) zeros = 1;
         if (base == 16 && magnitude != 0) {
             prefix[prefixLength++] = '0';
-            prefix[prefixLength++] = spec.conv;
+            prefix[prefixLength++] = field.conv;
         }
     }
-    const bool zeroPad = (spec.flags & kZero) && spec.precision < 0;
-    AppendNumber(out, spec, std::string_view(prefix, prefixLength), zeros,
+    const bool zeroPad = (field.flags & kZero) && field.precision < 0;
+    AppendNumber(out, field, std::string_view(prefix, prefixLength), zeros,
                  std::string_view(digits, count), zeroPad);
 }
 
@@ -235,19 +238,19 @@ std::size_t ForcePoint(char* text, std::size_t n) {
 // digits that printf gives in the "C" locale; sign, '#' and padding are
 // added here.
 template <class Ch>
-void FormatFloating(std::basic_string<Ch>& out, const Spec& spec, double value) {
-    const char conv = spec.conv;
+void FormatFloating(std::basic_string<Ch>& out, const Field& field, double value) {
+    const char conv = field.conv;
     const bool upper = conv == 'F' || conv == 'E' || conv == 'G' || conv == 'A';
     const char lower = upper ? static_cast<char>(conv - 'A' + 'a') : conv;
-    const bool alt = (spec.flags & kAlt) != 0;
+    const bool alt = (field.flags & kAlt) != 0;
     char prefix[3];
     std::size_t prefixLength = 0;
-    if (const char sign = SignChar(std::signbit(value), spec.flags)) prefix[prefixLength++] = sign;
+    if (const char sign = SignChar(std::signbit(value), field.flags)) prefix[prefixLength++] = sign;
 
     if (!std::isfinite(value)) {
         // C pads inf and nan with spaces even when '0' is given.
         const char* text = std::isnan(value) ? (upper ? "NAN" : "nan") : (upper ? "INF" : "inf");
-        AppendNumber(out, spec, std::string_view(prefix, prefixLength), 0, text, false);
+        AppendNumber(out, field, std::string_view(prefix, prefixLength), 0, text, false);
         return;
     }
     if (lower == 'a') {
@@ -256,7 +259,7 @@ void FormatFloating(std::basic_string<Ch>& out, const Spec& spec, double value) 
     }
 
     const double magnitude = std::fabs(value);
-    const int precision = spec.precision;
+    const int precision = field.precision;
     // Room for 309 integer digits of a fixed number, the fraction and '#'.
     const std::size_t need = 330 + static_cast<std::size_t>(precision < 0 ? 0 : precision);
     char stackBuffer[512];
@@ -318,30 +321,31 @@ void FormatFloating(std::basic_string<Ch>& out, const Spec& spec, double value) 
         for (std::size_t i = 0; i < n; ++i)
             if (buffer[i] >= 'a' && buffer[i] <= 'z') buffer[i] = static_cast<char>(buffer[i] - 32);
     }
-    AppendNumber(out, spec, std::string_view(prefix, prefixLength), 0, std::string_view(buffer, n),
-                 (spec.flags & kZero) != 0);
+    AppendNumber(out, field, std::string_view(prefix, prefixLength), 0, std::string_view(buffer, n),
+                 (field.flags & kZero) != 0);
 }
 
 // "%p" as glibc prints it: "0x" and lower-case hex digits, "(nil)" for null.
 template <class Ch>
-void FormatPointer(std::basic_string<Ch>& out, Spec spec, const FormatArg& arg) {
+void FormatPointer(std::basic_string<Ch>& out, Field field, const FormatArg& arg) {
     const std::uintptr_t address = static_cast<std::uintptr_t>(
         IsString(arg.kind) || arg.kind == Kind::Pointer ? reinterpret_cast<std::uintptr_t>(arg.p)
                                                         : IntegerBits(arg));
     if (address == 0) {
-        AppendNumber(out, spec, {}, 0, "(nil)", false);
+        AppendNumber(out, field, {}, 0, "(nil)", false);
         return;
     }
     char prefix[3] = {0, '0', 'x'};
-    const char sign = SignChar(false, spec.flags);
+    const char sign = SignChar(false, field.flags);
     if (sign) prefix[0] = sign;
     char buffer[24];
     const char* const digits = WriteDigits(buffer + sizeof buffer, address, 16, false);
     const std::size_t count = static_cast<std::size_t>(buffer + sizeof buffer - digits);
-    const std::size_t precision = spec.precision < 0 ? 0 : static_cast<std::size_t>(spec.precision);
-    AppendNumber(out, spec, std::string_view(sign ? prefix : prefix + 1, sign ? 3 : 2),
+    const std::size_t precision =
+        field.precision < 0 ? 0 : static_cast<std::size_t>(field.precision);
+    AppendNumber(out, field, std::string_view(sign ? prefix : prefix + 1, sign ? 3 : 2),
                  precision > count ? precision - count : 0, std::string_view(digits, count),
-                 (spec.flags & kZero) && spec.precision < 0);
+                 (field.flags & kZero) && field.precision < 0);
 }
 
 // Text of a string argument in the character width Ch, converted when the
@@ -405,46 +409,46 @@ class TextOf {
 };
 
 template <class Ch>
-void FormatString(std::basic_string<Ch>& out, Spec spec, const FormatArg& arg) {
+void FormatString(std::basic_string<Ch>& out, Field field, const FormatArg& arg) {
     if (!IsString(arg.kind)) {
         // A number given to "%s" prints as its own conversion would print it.
         if (arg.kind == Kind::Pointer && arg.p == nullptr) {
-            spec.conv = 's';
+            field.conv = 's';
         } else {
-            spec.precision = -1;
+            field.precision = -1;
             if (arg.kind == Kind::Floating) {
-                spec.conv = 'g';
-                FormatFloating(out, spec, arg.d);
+                field.conv = 'g';
+                FormatFloating(out, field, arg.d);
             } else if (arg.kind == Kind::Pointer) {
-                FormatPointer(out, spec, arg);
+                FormatPointer(out, field, arg);
             } else {
-                spec.conv = arg.kind == Kind::Signed ? 'd' : 'u';
-                spec.bits = 64;
-                FormatInteger(out, spec, arg);
+                field.conv = arg.kind == Kind::Signed ? 'd' : 'u';
+                field.bits = 64;
+                FormatInteger(out, field, arg);
             }
             return;
         }
     }
     if (arg.p == nullptr) {
         // glibc prints "(null)", or nothing when the precision cuts it.
-        const std::string_view text = spec.precision < 0 || spec.precision >= 6 ? "(null)" : "";
-        AppendNumber(out, spec, {}, 0, text, false);
+        const std::string_view text = field.precision < 0 || field.precision >= 6 ? "(null)" : "";
+        AppendNumber(out, field, {}, 0, text, false);
         return;
     }
     const TextOf<Ch> text(arg);
     const std::basic_string_view<Ch> view = text.view();
     std::size_t n = view.size();
-    if (spec.precision >= 0 && static_cast<std::size_t>(spec.precision) < n) {
-        n = static_cast<std::size_t>(spec.precision);
+    if (field.precision >= 0 && static_cast<std::size_t>(field.precision) < n) {
+        n = static_cast<std::size_t>(field.precision);
     }
-    AppendPadded(out, spec, view.data(), n);
+    AppendPadded(out, field, view.data(), n);
 }
 
 // "%c": in narrow text a char value is that byte and a larger character
 // code (a char16_t, char32_t or int) is encoded in the active code page; in
 // UTF-16 text a char value is decoded from the active code page.
 template <class Ch>
-void FormatChar(std::basic_string<Ch>& out, const Spec& spec, const FormatArg& arg) {
+void FormatChar(std::basic_string<Ch>& out, const Field& field, const FormatArg& arg) {
     const long long code = static_cast<long long>(IntegerBits(arg));
     std::basic_string<Ch> encoded;
     if constexpr (std::is_same_v<Ch, char>) {
@@ -473,7 +477,7 @@ void FormatChar(std::basic_string<Ch>& out, const Spec& spec, const FormatArg& a
             encoded = kReplacementChar;
         }
     }
-    AppendPadded(out, spec, encoded.data(), encoded.size());
+    AppendPadded(out, field, encoded.data(), encoded.size());
 }
 
 bool IsDigit(unsigned c) {
@@ -563,23 +567,23 @@ void FormatImpl(std::basic_string<Ch>& out, std::basic_string_view<Ch> format,
         if (percent == end) break;
         p = percent + 1;
 
-        Spec spec;
+        Field field;
         for (bool more = true; more && p < end;) {
             switch (static_cast<unsigned>(*p)) {
                 case '-':
-                    spec.flags |= kLeft;
+                    field.flags |= kLeft;
                     break;
                 case '+':
-                    spec.flags |= kPlus;
+                    field.flags |= kPlus;
                     break;
                 case ' ':
-                    spec.flags |= kSpace;
+                    field.flags |= kSpace;
                     break;
                 case '#':
-                    spec.flags |= kAlt;
+                    field.flags |= kAlt;
                     break;
                 case '0':
-                    spec.flags |= kZero;
+                    field.flags |= kZero;
                     break;
                 case '\'':  // digit grouping: the "C" locale has none
                     break;
@@ -595,7 +599,7 @@ void FormatImpl(std::basic_string<Ch>& out, std::basic_string_view<Ch> format,
             widthArg = true;
             ++p;
         } else {
-            spec.width = ReadNumber(p, end);
+            field.width = ReadNumber(p, end);
         }
         if (p < end && *p == Ch('.')) {
             ++p;
@@ -603,10 +607,10 @@ void FormatImpl(std::basic_string<Ch>& out, std::basic_string_view<Ch> format,
                 precisionArg = true;
                 ++p;
             } else {
-                spec.precision = ReadNumber(p, end);
+                field.precision = ReadNumber(p, end);
             }
         }
-        spec.bits = ReadSize(p, end);
+        field.bits = ReadSize(p, end);
         const unsigned conv = p < end ? static_cast<unsigned>(*p) : 0u;
         if (conv >= kIsConversion.size() || !kIsConversion[conv]) {
             // Not a conversion: the text stands as written.
@@ -614,7 +618,7 @@ void FormatImpl(std::basic_string<Ch>& out, std::basic_string_view<Ch> format,
             continue;
         }
         ++p;
-        spec.conv = static_cast<char>(conv);
+        field.conv = static_cast<char>(conv);
         if (conv == '%') {
             out.push_back(Ch('%'));
             continue;
@@ -628,41 +632,41 @@ void FormatImpl(std::basic_string<Ch>& out, std::basic_string_view<Ch> format,
         if (widthArg) {
             long long w = TruncateSigned(IntegerBits(args[next++]), 32);
             if (w < 0) {
-                spec.flags |= kLeft;
+                field.flags |= kLeft;
                 w = -w;
             }
-            spec.width = static_cast<int>(w > kMaxField ? kMaxField : w);
+            field.width = static_cast<int>(w > kMaxField ? kMaxField : w);
         }
         if (precisionArg) {
             const long long v = TruncateSigned(IntegerBits(args[next++]), 32);
-            spec.precision = v < 0 ? -1 : static_cast<int>(v > kMaxField ? kMaxField : v);
+            field.precision = v < 0 ? -1 : static_cast<int>(v > kMaxField ? kMaxField : v);
         }
-        if (spec.flags & kLeft) spec.flags &= ~kZero;
-        if (spec.flags & kPlus) spec.flags &= ~kSpace;
+        if (field.flags & kLeft) field.flags &= ~kZero;
+        if (field.flags & kPlus) field.flags &= ~kSpace;
         const FormatArg& arg = args[next++];
 
-        switch (spec.conv) {
+        switch (field.conv) {
             case 's':
             case 'S':
-                FormatString(out, spec, arg);
+                FormatString(out, field, arg);
                 break;
             case 'p':
-                FormatPointer(out, spec, arg);
+                FormatPointer(out, field, arg);
                 break;
             case 'n':  // writing through arguments is not supported; nothing is printed
                 break;
             default:
                 if (IsString(arg.kind)) {
                     // Text given to a numeric conversion prints as text.
-                    spec.precision = -1;
-                    FormatString(out, spec, arg);
-                } else if (spec.conv == 'c' || spec.conv == 'C') {
-                    FormatChar(out, spec, arg);
-                } else if (spec.conv == 'd' || spec.conv == 'i' || spec.conv == 'u' ||
-                           spec.conv == 'o' || spec.conv == 'x' || spec.conv == 'X') {
-                    FormatInteger(out, spec, arg);
+                    field.precision = -1;
+                    FormatString(out, field, arg);
+                } else if (field.conv == 'c' || field.conv == 'C') {
+                    FormatChar(out, field, arg);
+                } else if (field.conv == 'd' || field.conv == 'i' || field.conv == 'u' ||
+                           field.conv == 'o' || field.conv == 'x' || field.conv == 'X') {
+                    FormatInteger(out, field, arg);
                 } else {
-                    FormatFloating(out, spec, FloatingValue(arg));
+                    FormatFloating(out, field, FloatingValue(arg));
                 }
                 break;
         }

@@ -181,24 +181,25 @@ void ExpectSameAsPrintf(const FormatCase& k, C c, V v, const std::string& valueT
     }
 }
 
-FormatCase MakeSpec(Generator& g, const std::string& sizePrefix, char conversion, bool numeric) {
+FormatCase MakeCase(Generator& g, const std::string& sizePrefix, char conversion, bool numeric) {
     FormatCase k;
-    std::string spec = "%";
+    std::string directive = "%";
     for (int i = g.Int(0, 3); i > 0; --i)
-        spec += g.Pick({'-', '+', ' ', '#', '0'});
+        directive += g.Pick({'-', '+', ' ', '#', '0'});
     if (g.Chance(0.15)) {
-        spec += '*';
+        directive += '*';
         k.stars[k.starCount++] = g.Int(-30, 30);
     } else if (g.Chance(0.6)) {
-        spec += std::to_string(g.Int(1, 30));
+        directive += std::to_string(g.Int(1, 30));
     }
     if (g.Chance(0.15)) {
-        spec += ".*";
+        directive += ".*";
         k.stars[k.starCount++] = g.Int(-3, numeric ? 40 : 12);
     } else if (g.Chance(0.6)) {
-        spec += g.Chance(0.1) ? "." : "." + std::to_string(g.Int(0, numeric ? 40 : 12));
+        directive += g.Chance(0.1) ? "." : "." + std::to_string(g.Int(0, numeric ? 40 : 12));
     }
-    k.format = g.Pick({"", "<", "x="}) + spec + sizePrefix + conversion + g.Pick({"", ">", "%%"});
+    k.format =
+        g.Pick({"", "<", "x="}) + directive + sizePrefix + conversion + g.Pick({"", ">", "%%"});
     return k;
 }
 
@@ -284,7 +285,7 @@ TEST(FormatOracle, IntegersMatchPrintf) {
         const char conversion = g.Pick({'d', 'i', 'u', 'o', 'x', 'X'});
         const bool isSigned = conversion == 'd' || conversion == 'i';
         const char* prefix = g.Pick({"", "", "hh", "h", "l", "ll", "j", "z", "t"});
-        const FormatCase k = MakeSpec(g, prefix, conversion, true);
+        const FormatCase k = MakeCase(g, prefix, conversion, true);
         const std::uint64_t raw = g.Integer();
         const auto s = static_cast<long long>(raw);
         if (quirks.Skips(k, conversion, 0)) continue;
@@ -335,7 +336,7 @@ TEST(FormatOracle, FloatingPointMatchesPrintf) {
         // differently) is left out.
         const char* prefix =
             g.Pick({"", "", "l", conversion == 'a' || conversion == 'A' ? "" : "L"});
-        const FormatCase k = MakeSpec(g, prefix, conversion, true);
+        const FormatCase k = MakeCase(g, prefix, conversion, true);
         const double v = g.Double();
         if (quirks.Skips(k, conversion, v)) continue;
         char text[40];
@@ -355,7 +356,7 @@ TEST(FormatOracle, CharactersStringsAndPointersMatchPrintf) {
     for (int i = 0; i < 15000; ++i) {
         switch (g.Int(0, 2)) {
             case 0: {
-                const FormatCase k = MakeSpec(g, "", 'c', false);
+                const FormatCase k = MakeCase(g, "", 'c', false);
                 const int c = g.Int(1, 127);
                 if (g.Chance(0.5)) {
                     ExpectSameAsPrintf(k, c, static_cast<char>(c), Text(c));
@@ -365,7 +366,7 @@ TEST(FormatOracle, CharactersStringsAndPointersMatchPrintf) {
                 break;
             }
             case 1: {
-                const FormatCase k = MakeSpec(g, "", 's', false);
+                const FormatCase k = MakeCase(g, "", 's', false);
                 const std::string s = g.Word(14, "abc XYZ-019_%");
                 if (g.Chance(0.1)) {
                     const char* null = nullptr;
@@ -381,7 +382,7 @@ TEST(FormatOracle, CharactersStringsAndPointersMatchPrintf) {
             default: {
 #if defined(__GLIBC__)
                 // "%p" follows glibc's form ("0x..." and "(nil)") on every platform.
-                const FormatCase k = MakeSpec(g, "", 'p', true);
+                const FormatCase k = MakeCase(g, "", 'p', true);
                 const auto p = reinterpret_cast<const void*>(
                     static_cast<std::uintptr_t>(g.Chance(0.2) ? 0 : g.Bits() >> g.Int(0, 60)));
                 ExpectSameAsPrintf(k, p, p, "pointer");
