@@ -1,0 +1,16 @@
+# Writes a C++ source that holds the bytes of each input file:
+#   cmake -DOUTPUT=out.cpp -DINPUTS="a;b" -P EmbedFiles.cmake
+set(body "// Generated from the sample files; do not edit.\n#include \"EmbeddedSamples.h\"\n\nnamespace vextool {\nnamespace {\n")
+set(table "")
+set(index 0)
+foreach(input IN LISTS INPUTS)
+  file(READ ${input} hex HEX)
+  string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${hex}")
+  string(REGEX REPLACE "(0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,)" "\\1\n" bytes "${bytes}")
+  get_filename_component(name ${input} NAME)
+  string(APPEND body "const unsigned char kFile${index}[] = {\n${bytes}};\n")
+  string(APPEND table "    {\"${name}\", kFile${index}, sizeof kFile${index}},\n")
+  math(EXPR index "${index} + 1")
+endforeach()
+string(APPEND body "}  // namespace\n\nconst EmbeddedFile kEmbeddedSamples[] = {\n${table}};\nconst std::size_t kEmbeddedSampleCount = ${index};\n\n}  // namespace vextool\n")
+file(WRITE ${OUTPUT} "${body}")
