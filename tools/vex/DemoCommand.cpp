@@ -1,0 +1,125 @@
+// vex demo: a short tour on the built-in sample settings of a survey
+// vessel: show, diff, patch, seal and verify, then a position, a depth in
+// feet and the time.
+#include "Command.h"
+#include "Console.h"
+#include "EmbeddedSamples.h"
+#include "ExitCode.h"
+#include "IniFiles.h"
+
+#include <base/VexBase.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+namespace vextool {
+namespace {
+
+namespace fs = std::filesystem;
+using vex::CString;
+
+void Heading(const std::string& text) {
+    PrintLine();
+    PrintLine("== " + text);
+}
+
+int CountItems(const vex::FileObject& file) {
+    int items = 0;
+    vex::FobjSection handle;
+    CString name;
+    for (bool more = file.GetFirstSectionEntry(handle, name); more; more = file.GetNextSectionEntry(handle, name)) {
+        items += file.GetNumItems(name);
+    }
+    return items;
+}
+
+std::string PathText(const fs::path& p) {
+    const std::u8string u8 = p.u8string();
+    return std::string(u8.begin(), u8.end());
+}
+
+int RunDemo(bool keep) {
+    std::error_code ec;
+    const fs::path folder = fs::temp_directory_path(ec) / ("vex-demo-" + std::to_string(fs::file_time_type::clock::now().time_since_epoch().count()));
+    if (ec || !fs::create_directories(folder, ec)) return Fail(kInputOutput, PathText(folder), "cannot create the demo folder");
+    for (std::size_t i = 0; i < kEmbeddedSampleCount; ++i) {
+        std::ofstream out(folder / kEmbeddedSamples[i].name, std::ios::binary);
+        out.write(reinterpret_cast<const char*>(kEmbeddedSamples[i].data),
+                  static_cast<std::streamsize>(kEmbeddedSamples[i].size));
+        if (!out) return Fail(kInputOutput, PathText(folder / kEmbeddedSamples[i].name), "cannot be written");
+    }
+    const std::string v1 = PathText(folder / "vessel.ini");
+    const std::string v2 = PathText(folder / "vessel-v2.ini");
+    const std::string patched = PathText(folder / "vessel-patched.ini");
+    PrintLine("VexBase " + std::string(vex::VersionString()) + " demo, sample files in " + PathText(folder));
+
+    vex::FileObject first;
+    vex::FileObject second;
+    if (auto failed = LoadSettings(v1, first)) return *failed;
+    if (auto failed = LoadSettings(v2, second)) return *failed;
+
+    Heading("vex ini show vessel.ini (section Offsets)");
+    PrintLine(vex::Format("%d sections, %d items", first.GetNumSections(), CountItems(first)));
+    vex::FobjSection handle;
+    CString key;
+    CString value;
+    for (bool more = first.GetFirstMapEntry(handle, u"Offsets", key, value); more;
+         more = first.GetNextMapEntry(handle, key, value)) {
+        PrintLine("  " + key.ToUtf8() + " = " + value.ToUtf8());
+    }
+
+    Heading("vex ini diff vessel.ini vessel-v2.ini");
+    vex::FileObject difference;
+    first.GetDifference(second, difference);
+    Print(RenderSettings(difference));
+
+    Heading("vex ini apply vessel.ini <diff> -o vessel-patched.ini");
+    vex::FileObject patchedFile = first;
+    patchedFile.ApplyDifference(difference);
+    if (const int saved = SaveSettings(patchedFile, patched); saved != kSuccess) return saved;
+    vex::FileObject reread;
+    if (auto failed = LoadSettings(patched, reread)) return *failed;
+    PrintLine(reread.HasDifferences(second) ? "patched copy DIFFERS from vessel-v2.ini"
+                                            : "patched copy equals vessel-v2.ini");
+
+    Heading("vex ini seal / verify vessel-patched.ini");
+    vex::WriteChecksumSection(reread);
+    if (const int saved = SaveSettings(reread, patched); saved != kSuccess) return saved;
+    vex::FileObject sealed;
+    if (auto failed = LoadSettings(patched, sealed)) return *failed;
+    PrintLine(std::string("sealed file verifies: ") + (vex::VerifyChecksumSection(sealed) ? "OK" : "FAILED"));
+    sealed.SetItem(u"Offsets", u"GPS1.X", CString(u"9.999"), false);
+    PrintLine(std::string("after changing Offsets/GPS1.X without sealing: ") +
+              (vex::VerifyChecksumSection(sealed) ? "OK" : "FAILED, as it should"));
+
+    Heading("vex geo 51.9225 4.47917 --style dms --decimals 2");
+    CString lat;
+    CString lon;
+    vex::FormatGeogs(51.9225, 7, 2, 10, lat, true, true);
+    vex::FormatGeogs(4.47917, 7, 2, 11, lon, true, true);
+    PrintLine(lat.ToUtf8() + "  " + lon.ToUtf8());
+
+    Heading("vex number 12.84 --feet-mode 4 --decimals 1 (a draught in feet and inches)");
+    PrintLine(vex::FormatDouble(12.84, 1, 4));
+
+    Heading("vex time");
+    const double now = vex::CExTime::GetCurTime();
+    PrintLine("now " + vex::CExTime::TimeToStringISOFormat(now, true).ToUtf8() + " local, stamp " +
+              std::string(vex::CExTime::GetTimeStampString(now).GetString()));
+
+    if (!keep) fs::remove_all(folder, ec);
+    return kSuccess;
+}
+
+}  // namespace
+
+void AddDemoCommand(CLI::App& app, Action& run) {
+    auto keep = std::make_shared<bool>(false);
+    CLI::App* cmd = app.add_subcommand("demo", "A short tour on built-in sample settings files");
+    cmd->add_flag("--keep", *keep, "keep the sample folder for a look afterwards");
+    cmd->footer("Example: vex demo");
+    cmd->callback([keep, &run] { run = [keep] { return RunDemo(*keep); }; });
+}
+
+}  // namespace vextool
