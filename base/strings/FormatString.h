@@ -7,6 +7,9 @@
 // code page.
 #pragma once
 
+#include <base/strings/ByteSize.h>
+#include <base/strings/CVexString.h>
 #include <base/strings/FeetInch.h>
+#include <base/strings/GeographicAngles.h>
 #include <base/strings/NumberFormat.h>
 #include <base/strings/Precision.h>

@@ -1,5 +1,7 @@
 #include <base/strings/FeetInch.h>
 
+#include "CStringPrinter.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>

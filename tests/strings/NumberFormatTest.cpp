@@ -1,5 +1,7 @@
 #include <base/strings/NumberFormat.h>
 
+#include "CStringPrinter.h"
+
 #include <gtest/gtest.h>
 
 namespace vex {
