@@ -61,8 +61,8 @@ void CVexString::Split() {
         const auto first = text.find_first_not_of(u' ');
         text.erase(0, first == text.npos ? text.size() : first);
         text.erase(text.find_last_not_of(u' ') + 1);
-        for (std::size_t pos; (pos = text.find(u"  ")) != text.npos;)
-            text.erase(pos, 1);
+        const auto bothSpaces = [](char16_t a, char16_t b) { return a == u' ' && b == u' '; };
+        text.erase(std::unique(text.begin(), text.end(), bothSpaces), text.end());
     }
     std::size_t start = 0;
     for (std::size_t p; (p = text.find(separator_, start)) != text.npos;) {

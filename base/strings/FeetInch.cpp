@@ -4,6 +4,7 @@
 #include <base/framework/Scan.h>
 #include <base/strings/NumericDetail.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -112,8 +113,8 @@ bool StringToValue(std::u16string_view source, double& value, int mode) {
 
     // Runs of blanks count as one, so that the parts can be found by spaces.
     std::u16string text(TrimSpace(source));
-    for (std::size_t pos; (pos = text.find(u"  ")) != text.npos;)
-        text.erase(pos, 1);
+    const auto bothSpaces = [](char16_t a, char16_t b) { return a == u' ' && b == u' '; };
+    text.erase(std::unique(text.begin(), text.end(), bothSpaces), text.end());
     const View all = text;
     const bool hasSlash = all.find(u'/') != View::npos;
 
