@@ -1,5 +1,5 @@
-// CStringPrinter.h - lets GoogleTest print the library's strings in failure
-// messages of the strings tests.
+// CStringPrinter.h - lets GoogleTest print CString and CStringA values in
+// failure messages of the strings tests.
 #pragma once
 
 #include <base/framework/CString.h>
