@@ -1,11 +1,20 @@
 #include <base/strings/CVexCsvString.h>
 
 #include <base/platform/RegionalSettings.h>
+#include <base/strings/NumberFormat.h>
 
 #include <algorithm>
 #include <stdexcept>
 
 namespace vex {
+namespace {
+
+// The number text before the local decimal symbol goes in.
+CString FormatDecimals(double value, int decimals) {
+    return FormatDouble(value, std::max(decimals, 0), 0);
+}
+
+}  // namespace
 
 CVexCsvString::CVexCsvString() {
     // A setting the system cannot give keeps its default.
@@ -45,11 +54,15 @@ CVexCsvString CVexCsvString::operator+(const CString& text) const {
     return record;
 }
 
-bool CVexCsvString::SetItem(int index, const CString& text) {
+bool CVexCsvString::StoreItem(int index, CString item) {
     if (index < 0) return false;
     if (index >= Size()) items_.resize(static_cast<std::size_t>(index) + 1);
-    items_[static_cast<std::size_t>(index)] = ProtectSeperator(text);
+    items_[static_cast<std::size_t>(index)] = std::move(item);
     return true;
+}
+
+bool CVexCsvString::SetItem(int index, const CString& text) {
+    return StoreItem(index, ProtectSeperator(text));
 }
 
 void CVexCsvString::Set(int index, CStringA::TextArg narrowText) {
@@ -60,6 +73,14 @@ void CVexCsvString::Set(int index, const char16_t* text) {
 }
 void CVexCsvString::Set(int index, const CString& text) {
     SetItem(index, text);
+}
+
+void CVexCsvString::AddItem(double value, int decimals) {
+    items_.push_back(AdjustToLocalDecimal(FormatDecimals(value, decimals)));
+}
+
+bool CVexCsvString::SetItem(int index, double value, int decimals) {
+    return StoreItem(index, AdjustToLocalDecimal(FormatDecimals(value, decimals)));
 }
 
 void CVexCsvString::Insert(int index, const CString& text) {

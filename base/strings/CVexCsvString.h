@@ -42,6 +42,12 @@ class VEXBASE_API CVexCsvString {
     void Set(int index, const char16_t* text);
     void Set(int index, const CString& text);
 
+    // Append value (or set item index to it, as SetItem above) printed by
+    // FormatDouble with decimals decimals (below 0 counts as 0), then
+    // passed through AdjustToLocalDecimal.
+    void AddItem(double value, int decimals);
+    bool SetItem(int index, double value, int decimals);
+
     // Inserts the protected text before item index; an index past the end
     // appends, a negative one inserts at the front.
     void Insert(int index, const CString& text);
@@ -82,6 +88,9 @@ class VEXBASE_API CVexCsvString {
     CString AdjustToLocalDecimal(const CString& text) const;
 
   private:
+    // Item index = item, growing the list as SetItem does.
+    bool StoreItem(int index, CString item);
+
     std::vector<CString> items_;
     CString decimal_ = u",";
     CString separator_ = u";";

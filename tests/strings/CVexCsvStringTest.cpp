@@ -89,6 +89,26 @@ TEST(CVexCsvString, LocalDecimalReplacesPointsAfterProtecting) {
     }
 }
 
+TEST(CVexCsvString, NumbersArePrintedWithTheirDecimalsAndTheLocalSymbol) {
+    CVexCsvString european = European();
+    european.AddItem(12.5, 2);
+    EXPECT_TRUE(european.SetItem(3, -0.125, 3));
+    european.AddItem(2.75, -1);  // no decimals: "%.0f" rounds
+    EXPECT_FALSE(european.SetItem(-1, 1.0, 1));
+    EXPECT_EQ(european.String(), u"12,50;;;-0,125;3");
+
+    CVexCsvString point(u".", u",");
+    point.AddItem(12.5, 2);
+    point.AddItem(1e6, 1);
+    EXPECT_EQ(point.String(), u"12.50,1000000.0");
+
+    // Comma for both: the number goes in unquoted and splits when read back.
+    CVexCsvString clash(u",", u",");
+    clash += u"a";
+    clash.AddItem(1.5, 1);
+    EXPECT_EQ(clash.String(), u"a,1,5");
+}
+
 TEST(CVexCsvString, SetItemGrowsTheListWithEmptyItems) {
     CVexCsvString record = European();
     EXPECT_TRUE(record.SetItem(3, u"v"));
