@@ -10,21 +10,13 @@ namespace vex {
 namespace {
 
 TEST(FileNameText, TheNineForbiddenCharactersBecomeUnderscores) {
-    const std::pair<const char16_t*, const char16_t*> cases[] = {
-        {u"Line 3: A/B", u"Line 3_ A_B"},
-        {u"\\/:*?\"<>|", u"_________"},
-        {u"survey.ini", u"survey.ini"},
-        {u"caf\u00E9 (2).txt", u"caf\u00E9 (2).txt"},
-        {u"", u""},
-    };
-    for (const auto& [name, valid] : cases) {
-        EXPECT_EQ(CreateValidFileName(name), valid);
-        EXPECT_EQ(AllValidFileSystemChars(name), CString(name) == valid);
-        EXPECT_TRUE(AllValidFileSystemChars(CreateValidFileName(name)));
-    }
+    EXPECT_EQ(CreateValidFileName(u"Line 3: A/B"), u"Line 3_ A_B");
+    EXPECT_EQ(CreateValidFileName(u"\\/:*?\"<>|\u00E9"), u"_________\u00E9");
     for (const char16_t bad : std::u16string_view(u"\\/:*?\"<>|")) {
         EXPECT_FALSE(AllValidFileSystemChars(CString(u"ok") + bad)) << static_cast<int>(bad);
     }
+    EXPECT_TRUE(AllValidFileSystemChars(u"caf\u00E9 (2).txt"));
+    EXPECT_TRUE(AllValidFileSystemChars(u""));
 }
 
 }  // namespace
