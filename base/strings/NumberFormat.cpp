@@ -8,12 +8,14 @@ CString GetFormatStringDouble() {
     return CString(u"%f");
 }
 
+// A negative number of decimals leaves the precision out, as a negative
+// precision argument does in printf.
 CString GetFormatStringDouble(int decimals) {
-    return CString(Format(u"%%.%df", decimals));
+    return CString(decimals < 0 ? u"%f" : Format(u"%%.%df", decimals));
 }
 
 CString GetFormatStringDouble(int width, int decimals) {
-    return CString(Format(u"%%%d.%df", width, decimals));
+    return CString(decimals < 0 ? Format(u"%%%df", width) : Format(u"%%%d.%df", width, decimals));
 }
 
 CString GetFormatStringInt() {

@@ -20,9 +20,10 @@ namespace vex {
 
 // "%f".
 VEXBASE_API CString GetFormatStringDouble();
-// "%.<decimals>f": 3 gives "%.3f".
+// "%.<decimals>f": 3 gives "%.3f". Negative decimals leave the precision
+// out, as printf does with a negative precision: -1 gives "%f".
 VEXBASE_API CString GetFormatStringDouble(int decimals);
-// "%<width>.<decimals>f": (8, 2) gives "%8.2f".
+// "%<width>.<decimals>f": (8, 2) gives "%8.2f", (8, -1) "%8f".
 VEXBASE_API CString GetFormatStringDouble(int width, int decimals);
 // "%d".
 VEXBASE_API CString GetFormatStringInt();
@@ -40,7 +41,8 @@ VEXBASE_API CStringA FormatIntA(int value, std::string_view format);
 
 // FormatDoubleW(value, "%f", mode): 2.5 gives "2.500000".
 VEXBASE_API CString FormatDouble(double value, int mode = 0);
-// FormatDoubleW(value, "%.<decimals>f", mode).
+// FormatDoubleW(value, "%.<decimals>f", mode); the format of
+// GetFormatStringDouble(decimals).
 VEXBASE_API CString FormatDouble(double value, int decimals, int mode);
 // FormatDoubleW(value, "%<width>.<decimals>f", mode).
 VEXBASE_API CString FormatDouble(double value, int width, int decimals, int mode);

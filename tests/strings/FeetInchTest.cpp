@@ -73,6 +73,10 @@ TEST(FeetInch, ParseReadsFeetInchesAndFractions) {
                  {u"-0' 6\"", -0.5},
                  {u"-6\"", 0.5},
                  {u"abc", 0.0},
+                 {u"'", 0.0},
+                 {u"/\"", 0.0},
+                 {u"- -", 0.0},
+                 {u"1/", 0.0},
                  {u"", 0.0}};
     for (const auto& c : cases) {
         double value = 99.0;

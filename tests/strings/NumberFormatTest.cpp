@@ -10,6 +10,8 @@ namespace {
 TEST(NumberFormat, FormatsAreBuiltFromWidthAndDecimals) {
     EXPECT_EQ(GetFormatStringDouble(3), u"%.3f");
     EXPECT_EQ(GetFormatStringDouble(8, 2), u"%8.2f");
+    EXPECT_EQ(GetFormatStringDouble(-1), u"%f");
+    EXPECT_EQ(GetFormatStringDouble(8, -1), u"%8f");
     EXPECT_EQ(GetFormatStringInt(5), u"%5d");
     EXPECT_EQ(FormatInt(-7, 4), u"  -7");
     EXPECT_EQ(FormatInt(255, u"%04X"), u"00FF");
