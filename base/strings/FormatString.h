@@ -8,8 +8,18 @@
 #pragma once
 
 #include <base/strings/ByteSize.h>
+#include <base/strings/CVexCsvString.h>
+#include <base/strings/CVexFixedString.h>
 #include <base/strings/CVexString.h>
 #include <base/strings/FeetInch.h>
+#include <base/strings/FileNameText.h>
 #include <base/strings/GeographicAngles.h>
+#include <base/strings/HexText.h>
 #include <base/strings/NumberFormat.h>
 #include <base/strings/Precision.h>
+#include <base/strings/StringViews.h>
+#include <base/strings/TextCompare.h>
+#include <base/strings/TextFunctions.h>
+#include <base/strings/TextTrim.h>
+#include <base/strings/ToStr.h>
+#include <base/strings/XmlText.h>
