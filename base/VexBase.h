@@ -12,6 +12,7 @@
 
 #include <base/Export.h>
 #include <base/framework/Framework.h>
+#include <base/geometry/Geometry.h>
 
 namespace vex {
 

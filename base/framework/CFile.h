@@ -2,7 +2,8 @@
 //
 // The flags are the ones settings code passes to FileObject::FileOpen and
 // FileSave; the file classes of this folder interpret them. Share flags are
-// honoured on Windows and accepted (and ignored) elsewhere.
+// honoured on Windows and accepted (and ignored) elsewhere. The seek origins
+// are here too, so that every stream names them the same way.
 #pragma once
 
 namespace vex {
@@ -24,6 +25,8 @@ class CFile {
         typeText = 0x4000,
         typeBinary = 0x8000,
     };
+    // Origins of a seek, as the file utilities of this folder take them.
+    enum SeekPosition : int { begin = 0, current = 1, end = 2 };
     // Masks that pick the access and the share part out of a flag word.
     static constexpr unsigned accessMask = 0x0003;
     static constexpr unsigned shareMask = 0x0070;

@@ -24,6 +24,39 @@
 namespace vex {
 
 template <class Ch>
+class CStringT;
+
+namespace detail {
+
+// Text that views as a basic_string_view<Ch> without being a C string:
+// strings, views and the like, as std::basic_string accepts them.
+template <class T, class Ch>
+concept ViewableText = std::is_convertible_v<const T&, std::basic_string_view<Ch>> &&
+    !std::is_convertible_v<const T&, const Ch*>;
+
+// The text parameter of CStringT's members: a C string (null reads as
+// empty), a std::basic_string, a view or a CStringT of the same width. One
+// parameter type instead of overloads for each keeps a call with a CStringT
+// argument unambiguous, as a CStringT converts to a pointer and to a view.
+template <class Ch>
+class TextArg {
+  public:
+    using ViewType = std::basic_string_view<Ch>;
+
+    TextArg(const Ch* text) : view_(text ? ViewType(text) : ViewType()) {}
+    TextArg(const CStringT<Ch>& text) : view_(text.View()) {}
+    template <ViewableText<Ch> T>
+    TextArg(const T& text) : view_(text) {}
+
+    ViewType View() const { return view_; }
+
+  private:
+    ViewType view_;
+};
+
+}  // namespace detail
+
+template <class Ch>
 class CStringT {
     static_assert(std::is_same_v<Ch, char> || std::is_same_v<Ch, char16_t>);
 
@@ -33,6 +66,8 @@ class CStringT {
     using ViewType = std::basic_string_view<Ch>;
     // The character type of the other width.
     using YCHAR = std::conditional_t<std::is_same_v<Ch, char>, char16_t, char>;
+    // Text arguments: a C string, a string, a view or a CStringT.
+    using TextArg = detail::TextArg<Ch>;
 
     CStringT() = default;
     CStringT(const Ch* text) : s_(text ? ViewType(text) : ViewType()) {}
@@ -121,15 +156,13 @@ class CStringT {
     // --- search ----------------------------------------------------------
     // Index of the first match at or after start, or -1.
     int Find(Ch c, int start = 0) const { return Pos(start < 0 ? npos : s_.find(c, Clamp(start))); }
-    int Find(ViewType sub, int start = 0) const {
+    // An empty sub is found at start.
+    int Find(TextArg sub, int start = 0) const {
         if (start < 0 || start > GetLength()) return -1;
-        return Pos(s_.find(sub, static_cast<std::size_t>(start)));
-    }
-    int Find(const Ch* sub, int start = 0) const {
-        return Find(ViewType(sub ? sub : EmptyText()), start);
+        return Pos(s_.find(sub.View(), static_cast<std::size_t>(start)));
     }
     int ReverseFind(Ch c) const { return Pos(s_.rfind(c)); }
-    int FindOneOf(ViewType set) const { return Pos(s_.find_first_of(set)); }
+    int FindOneOf(TextArg set) const { return Pos(s_.find_first_of(set.View())); }
 
     // --- extraction ------------------------------------------------------
     CStringT Left(int count) const { return CStringT(s_.substr(0, Clamp(count))); }
@@ -142,17 +175,18 @@ class CStringT {
         const std::size_t from = Clamp(first);
         return CStringT(s_.substr(from, count > 0 ? static_cast<std::size_t>(count) : 0u));
     }
-    CStringT SpanIncluding(ViewType set) const {
-        return Left(Pos(s_.find_first_not_of(set)) < 0 ? GetLength()
-                                                       : Pos(s_.find_first_not_of(set)));
+    // The leading characters that are (are not) in set.
+    CStringT SpanIncluding(TextArg set) const {
+        return CStringT(s_.substr(0, s_.find_first_not_of(set.View())));
     }
-    CStringT SpanExcluding(ViewType set) const {
-        return Left(Pos(s_.find_first_of(set)) < 0 ? GetLength() : Pos(s_.find_first_of(set)));
+    CStringT SpanExcluding(TextArg set) const {
+        return CStringT(s_.substr(0, s_.find_first_of(set.View())));
     }
     // The next token delimited by any of the characters in delimiters,
     // starting at pos; pos moves past it and becomes -1 at the end.
-    CStringT Tokenize(ViewType delimiters, int& pos) const {
+    CStringT Tokenize(TextArg delimiterSet, int& pos) const {
         if (pos < 0) return CStringT();
+        const ViewType delimiters = delimiterSet.View();
         std::size_t from = s_.find_first_not_of(delimiters, static_cast<std::size_t>(pos));
         if (from == npos) {
             pos = -1;
@@ -179,16 +213,14 @@ class CStringT {
         return TrimRightIf([c](Ch x) { return x == c; });
     }
     CStringT& Trim(Ch c) { return TrimRight(c).TrimLeft(c); }
-    CStringT& TrimLeft(ViewType set) {
-        return TrimLeftIf([set](Ch x) { return set.find(x) != npos; });
+    // Removes the leading (trailing) characters that are in set.
+    CStringT& TrimLeft(TextArg set) {
+        return TrimLeftIf([chars = set.View()](Ch x) { return chars.find(x) != npos; });
     }
-    CStringT& TrimRight(ViewType set) {
-        return TrimRightIf([set](Ch x) { return set.find(x) != npos; });
+    CStringT& TrimRight(TextArg set) {
+        return TrimRightIf([chars = set.View()](Ch x) { return chars.find(x) != npos; });
     }
-    CStringT& Trim(ViewType set) { return TrimRight(set).TrimLeft(set); }
-    CStringT& TrimLeft(const Ch* set) { return TrimLeft(ViewType(set ? set : EmptyText())); }
-    CStringT& TrimRight(const Ch* set) { return TrimRight(ViewType(set ? set : EmptyText())); }
-    CStringT& Trim(const Ch* set) { return Trim(ViewType(set ? set : EmptyText())); }
+    CStringT& Trim(TextArg set) { return TrimRight(set).TrimLeft(set); }
 
     CStringT& MakeUpper() {
         for (Ch& c : s_)
@@ -216,7 +248,11 @@ class CStringT {
         }
         return n;
     }
-    int Replace(ViewType from, ViewType to) {
+    // An empty from replaces nothing. from and to may be views of this
+    // string: the result is built apart and assigned at the end.
+    int Replace(TextArg fromText, TextArg toText) {
+        const ViewType from = fromText.View();
+        const ViewType to = toText.View();
         if (from.empty()) return 0;
         int n = 0;
         StringType out;
@@ -230,9 +266,6 @@ class CStringT {
         }
         return n;
     }
-    int Replace(const Ch* from, const Ch* to) {
-        return Replace(ViewType(from ? from : EmptyText()), ViewType(to ? to : EmptyText()));
-    }
     // Removes every occurrence of c; returns how many were removed.
     int Remove(Ch c) {
         const auto old = s_.size();
@@ -244,17 +277,18 @@ class CStringT {
         s_.insert(Clamp(index), 1, c);
         return GetLength();
     }
-    int Insert(int index, ViewType text) {
-        s_.insert(Clamp(index), text);
+    int Insert(int index, TextArg text) {
+        s_.insert(Clamp(index), text.View());
         return GetLength();
     }
-    // Deletes count characters at index; returns the new length.
+    // Deletes up to count characters at index (clamped, so a negative index
+    // deletes from the start); returns the new length.
     int Delete(int index, int count = 1) {
-        if (index >= 0 && count > 0) s_.erase(Clamp(index), static_cast<std::size_t>(count));
+        if (count > 0) s_.erase(Clamp(index), static_cast<std::size_t>(count));
         return GetLength();
     }
     void Truncate(int length) { s_.resize(std::min(s_.size(), Clamp(length))); }
-    void SetString(ViewType text) { s_.assign(text); }
+    void SetString(TextArg text) { s_.assign(text.View()); }
 
     // --- formatting ------------------------------------------------------
     template <class... Args>
@@ -265,14 +299,18 @@ class CStringT {
     }
     template <class... Args>
     void AppendFormat(ViewType format, const Args&... args) {
-        AppendTo(s_, format, args...);
+        // Formatted apart first: an argument may be this string itself.
+        StringType out;
+        AppendTo(out, format, args...);
+        s_.append(out);
     }
 
     // --- comparison ------------------------------------------------------
     // <0, 0 or >0 by code unit value.
-    int Compare(ViewType other) const { return Sign(View().compare(other)); }
+    int Compare(TextArg other) const { return Sign(View().compare(other.View())); }
     // As Compare after mapping both sides to lower case.
-    int CompareNoCase(ViewType other) const {
+    int CompareNoCase(TextArg otherText) const {
+        const ViewType other = otherText.View();
         const std::size_t n = std::min(s_.size(), other.size());
         for (std::size_t i = 0; i < n; ++i) {
             const auto a = Unsigned(ToLowerChar(s_[i]));
@@ -282,16 +320,8 @@ class CStringT {
         return s_.size() == other.size() ? 0 : (s_.size() < other.size() ? -1 : 1);
     }
 
-    CStringT& operator+=(ViewType text) {
-        s_.append(text);
-        return *this;
-    }
-    CStringT& operator+=(const CStringT& text) {
-        s_.append(text.s_);
-        return *this;
-    }
-    CStringT& operator+=(const Ch* text) {
-        if (text) s_.append(text);
+    CStringT& operator+=(TextArg text) {
+        s_.append(text.View());
         return *this;
     }
     CStringT& operator+=(Ch c) {
@@ -302,10 +332,10 @@ class CStringT {
     friend CStringT operator+(const CStringT& a, const CStringT& b) {
         return CStringT(a.s_ + b.s_);
     }
-    friend CStringT operator+(const CStringT& a, const Ch* b) { return CStringT(a) += b; }
-    friend CStringT operator+(const Ch* a, const CStringT& b) { return CStringT(a) += b; }
-    friend CStringT operator+(const CStringT& a, Ch b) { return CStringT(a) += b; }
-    friend CStringT operator+(Ch a, const CStringT& b) { return CStringT(a) += b; }
+    friend CStringT operator+(const CStringT& a, const Ch* b) { return Concat(a, TextArg(b)); }
+    friend CStringT operator+(const Ch* a, const CStringT& b) { return Concat(TextArg(a), b); }
+    friend CStringT operator+(const CStringT& a, Ch b) { return Concat(a, ViewType(&b, 1)); }
+    friend CStringT operator+(Ch a, const CStringT& b) { return Concat(ViewType(&a, 1), b); }
 
     friend bool operator==(const CStringT& a, const CStringT& b) { return a.s_ == b.s_; }
     friend bool operator==(const CStringT& a, const Ch* b) {
@@ -320,6 +350,13 @@ class CStringT {
 
   private:
     static constexpr auto npos = StringType::npos;
+
+    static CStringT Concat(TextArg a, TextArg b) {
+        StringType out;
+        out.reserve(a.View().size() + b.View().size());
+        out.append(a.View()).append(b.View());
+        return CStringT(std::move(out));
+    }
 
     static const Ch* EmptyText() {
         static constexpr Ch empty[1] = {};

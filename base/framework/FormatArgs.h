@@ -23,7 +23,18 @@ namespace vex {
 // character width; the formatter converts between kinds where a conversion
 // asks for another one (for example "%f" given an int).
 struct FormatArg {
-    enum class Kind : unsigned char { Signed, Unsigned, Floating, Narrow, Utf16, Utf32, Pointer };
+    // Narrow text is in the active code page, Utf8 text (char8_t) is UTF-8
+    // whatever the code page. A string whose pointer is null prints "(null)".
+    enum class Kind : unsigned char {
+        Signed,
+        Unsigned,
+        Floating,
+        Narrow,
+        Utf16,
+        Utf32,
+        Pointer,
+        Utf8
+    };
 
     Kind kind = Kind::Signed;
     union {
@@ -53,8 +64,8 @@ struct ScanArg {
         LongDouble,
         NarrowString,  // std::string*
         Utf16String,   // std::u16string*
-        NarrowBuffer,  // char[capacity], NUL-terminated by the scanner
-        Utf16Buffer,   // char16_t[capacity], NUL-terminated by the scanner
+        NarrowBuffer,  // char[capacity]; %s and %[ end the text with a NUL
+        Utf16Buffer,   // char16_t[capacity]; %s and %[ end the text with a NUL
     };
 
     Kind kind = Kind::Int32;
@@ -90,6 +101,36 @@ inline FormatArg MakeString(FormatArg::Kind kind, const void* text, std::size_t 
     return a;
 }
 
+// Length of a C string of at most limit code units; a null pointer has none.
+template <class Ch>
+constexpr std::size_t BoundedLength(const Ch* text, std::size_t limit) {
+    std::size_t n = 0;
+    if (text) {
+        while (n < limit && text[n] != Ch(0))
+            ++n;
+    }
+    return n;
+}
+
+// The kind of a string of character type Ch, or Pointer for the byte types.
+template <class Ch>
+constexpr FormatArg::Kind StringKind() {
+    using K = FormatArg::Kind;
+    if constexpr (std::is_same_v<Ch, char>) {
+        return K::Narrow;
+    } else if constexpr (std::is_same_v<Ch, char8_t>) {
+        return K::Utf8;
+    } else if constexpr (std::is_same_v<Ch, char16_t>) {
+        return K::Utf16;
+    } else if constexpr (std::is_same_v<Ch, char32_t>) {
+        return K::Utf32;
+    } else if constexpr (std::is_same_v<Ch, wchar_t>) {
+        return sizeof(wchar_t) == 2 ? K::Utf16 : K::Utf32;
+    } else {
+        return K::Pointer;
+    }
+}
+
 }  // namespace detail
 
 // Captures one argument. String types are found through ToFormatArg
@@ -115,31 +156,53 @@ FormatArg ToFormatArg(const T& value) {
         a.kind = K::Floating;
         a.d = static_cast<double>(value);
         return a;
+    } else if constexpr (std::is_null_pointer_v<T>) {
+        FormatArg a;
+        a.kind = K::Pointer;
+        a.p = nullptr;
+        return a;
+    } else if constexpr (std::is_array_v<T>) {
+        // A character array holds text up to its first NUL, or all of it.
+        using Ch = std::remove_cv_t<std::remove_extent_t<T>>;
+        constexpr K kind = detail::StringKind<Ch>();
+        static_assert(kind != K::Pointer, "only character arrays can be formatted");
+        return MakeString(kind, value, detail::BoundedLength(value, std::extent_v<T>));
+    } else if constexpr (std::is_pointer_v<T>) {
+        // Character pointers are C strings (null allowed); others print as %p.
+        using Ch = std::remove_cv_t<std::remove_pointer_t<T>>;
+        constexpr K kind = detail::StringKind<Ch>();
+        if constexpr (kind != K::Pointer) {
+            return MakeString(kind, value, value ? std::char_traits<Ch>::length(value) : 0);
+        } else {
+            FormatArg a;
+            a.kind = K::Pointer;
+            a.p = static_cast<const void*>(value);
+            return a;
+        }
     } else if constexpr (std::is_convertible_v<const T&, std::string_view>) {
         const std::string_view s(value);
         return MakeString(K::Narrow, s.data(), s.size());
     } else if constexpr (std::is_convertible_v<const T&, std::u16string_view>) {
         const std::u16string_view s(value);
         return MakeString(K::Utf16, s.data(), s.size());
+    } else if constexpr (std::is_convertible_v<const T&, std::u32string_view>) {
+        const std::u32string_view s(value);
+        return MakeString(K::Utf32, s.data(), s.size());
     } else if constexpr (std::is_convertible_v<const T&, std::wstring_view>) {
         const std::wstring_view s(value);
-        return MakeString(sizeof(wchar_t) == 2 ? K::Utf16 : K::Utf32, s.data(), s.size());
+        return MakeString(detail::StringKind<wchar_t>(), s.data(), s.size());
     } else if constexpr (std::is_convertible_v<const T&, std::u8string_view>) {
         const std::u8string_view s(value);
-        return MakeString(K::Narrow, s.data(), s.size());
-    } else if constexpr (std::is_pointer_v<T> || std::is_null_pointer_v<T>) {
-        FormatArg a;
-        a.kind = K::Pointer;
-        a.p = static_cast<const void*>(value);
-        return a;
+        return MakeString(K::Utf8, s.data(), s.size());
     } else {
         static_assert(sizeof(T) == 0, "this type cannot be formatted with a printf format");
     }
 }
 
-// Captures one scan target.
+namespace detail {
+
 template <class T>
-ScanArg ToScanArg(T* target) {
+ScanArg ScanPointer(T* target) {
     using K = ScanArg::Kind;
     ScanArg a;
     a.target = target;
@@ -175,24 +238,33 @@ ScanArg ToScanArg(T* target) {
     return a;
 }
 
-// Fixed buffers are passed as arrays (not decayed pointers) so that the
-// scanner knows their size and never writes past them.
-template <std::size_t N>
-ScanArg ToScanArg(char (&buffer)[N]) {
-    ScanArg a;
-    a.kind = ScanArg::Kind::NarrowBuffer;
-    a.target = buffer;
-    a.capacity = N;
-    return a;
-}
+}  // namespace detail
 
-template <std::size_t N>
-ScanArg ToScanArg(char16_t (&buffer)[N]) {
-    ScanArg a;
-    a.kind = ScanArg::Kind::Utf16Buffer;
-    a.target = buffer;
-    a.capacity = N;
-    return a;
+// Captures one scan target: a pointer to a number, a character or a string
+// object, or a char / char16_t array. Arrays are taken as arrays (one
+// template for both, so that an array never decays to a pointer to its
+// first element), which lets the scanner know their size and never write
+// past them. A char* pointer is a single character, not a buffer.
+template <class T>
+ScanArg ToScanArg(T&& target) {
+    using U = std::remove_cvref_t<T>;
+    if constexpr (std::is_array_v<U> && std::is_lvalue_reference_v<T> &&
+                  !std::is_const_v<std::remove_reference_t<T>>) {
+        using Ch = std::remove_extent_t<U>;
+        static_assert(std::is_same_v<Ch, char> || std::is_same_v<Ch, char16_t>,
+                      "only char and char16_t arrays can be scanf buffers");
+        ScanArg a;
+        a.kind =
+            std::is_same_v<Ch, char> ? ScanArg::Kind::NarrowBuffer : ScanArg::Kind::Utf16Buffer;
+        a.target = target;
+        a.capacity = std::extent_v<U>;
+        return a;
+    } else if constexpr (std::is_pointer_v<U> && !std::is_const_v<std::remove_pointer_t<U>>) {
+        return detail::ScanPointer(static_cast<U>(target));
+    } else {
+        static_assert(sizeof(U) == 0, "scanf targets are non-const pointers or arrays");
+        return ScanArg{};
+    }
 }
 
 }  // namespace vex
