@@ -20,24 +20,30 @@ ErrorMessageFile::~ErrorMessageFile() = default;
 
 bool ErrorMessageFile::Open(const CString& fileName) {
     auto file = std::make_unique<FileObject>();
-    // A failed open is not reported: error texts must not depend on the
-    // error list, and the built-in texts serve meanwhile.
+    // Read before taking the lock: a failure is reported, and reporting
+    // formats the error, which looks its texts up here.
     const bool ok = file->FileOpen(fileName, CFile::modeRead | CFile::shareDenyWrite);
-    const std::unique_lock lock(m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_file = ok ? std::move(file) : nullptr;
     return ok;
 }
 
 bool ErrorMessageFile::IsOpen() const {
-    const std::shared_lock lock(m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_file != nullptr;
+}
+
+void ErrorMessageFile::Close() {
+    std::unique_ptr<FileObject> file;
+    const std::lock_guard lock(m_mutex);
+    file.swap(m_file);
 }
 
 bool ErrorMessageFile::Get(const CString& section, const CString& key, CString& text) const {
     CString found;
     std::shared_ptr<const Translator> translator;
     {
-        const std::shared_lock lock(m_mutex);
+        const std::lock_guard lock(m_mutex);
         if (!m_file || !m_file->GetItem(section, key, found)) return false;
         translator = m_translator;
     }
@@ -50,7 +56,7 @@ bool ErrorMessageFile::Get(const CString& section, const CString& key, CString& 
 }
 
 void ErrorMessageFile::SetTranslator(std::shared_ptr<const Translator> translator) {
-    const std::unique_lock lock(m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_translator = std::move(translator);
 }
 

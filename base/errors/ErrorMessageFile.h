@@ -12,7 +12,7 @@
 #include <base/framework/CString.h>
 
 #include <memory>
-#include <shared_mutex>
+#include <mutex>
 
 namespace vex {
 
@@ -33,10 +33,13 @@ class VEXBASE_API ErrorMessageFile {
     // The single instance, created on first use.
     static ErrorMessageFile& Get();
 
-    // Opens the message file read-only, denying writes to others while it is
-    // open; false when it cannot be read (the built-in texts stay in use).
+    // Reads the message file, opened read-only and denying writes to others
+    // while it is read; false when it cannot be read, which is reported like
+    // any file that cannot be opened, and the built-in texts are used.
     bool Open(const CString& fileName);
     bool IsOpen() const;
+    // Forgets the file: the built-in texts are used again.
+    void Close();
     // Reads the text of key in section into text, translated when a
     // translator is active; false, with text unchanged, when there is none.
     bool Get(const CString& section, const CString& key, CString& text) const;
@@ -51,7 +54,9 @@ class VEXBASE_API ErrorMessageFile {
     ErrorMessageFile();
     ~ErrorMessageFile();
 
-    mutable std::shared_mutex m_mutex;
+    // Exclusive even for lookups: a FileObject is not safe for concurrent
+    // use, not even for reading (each lookup sets its status).
+    mutable std::mutex m_mutex;
     std::unique_ptr<FileObject> m_file;
     std::shared_ptr<const Translator> m_translator;
 };

@@ -22,14 +22,22 @@ CString FileObjectError::Type() const {
 }
 
 CString FileObjectError::Format() const {
-    const bool sectionMissing = m_kind == SECTION_NOT_FOUND;
-    CString format;
-    if (!ErrorMessageFile::Get().Get(kSection, sectionMissing ? u"SectionNotFound" : u"KeyNotFound",
-                                     format)) {
-        format = LoadStringResource(sectionMissing ? IDS_SECTION_NOT_FOUND : IDS_KEY_NOT_FOUND);
+    struct Template {
+        const char16_t* key;
+        int resource;
+    };
+    static constexpr Template kTemplates[] = {{u"SectionNotFound", IDS_SECTION_NOT_FOUND},
+                                              {u"KeyNotFound", IDS_KEY_NOT_FOUND},
+                                              {u"ValueNotConverted", IDS_VALUE_NOT_CONVERTED}};
+    if (m_kind < SECTION_NOT_FOUND || m_kind > VALUE_NOT_CONVERTED) {
+        return LoadStringResource(IDS_UNSPECIFIED_ERROR);
     }
+    const Template& t = kTemplates[m_kind];
+    CString format;
+    if (!ErrorMessageFile::Get().Get(kSection, t.key, format))
+        format = LoadStringResource(t.resource);
     CString text;
-    if (sectionMissing) {
+    if (m_kind == SECTION_NOT_FOUND) {
         text.Format(format, m_section, FileTitleOf(m_fileName));
     } else {
         text.Format(format, m_key, m_section, FileTitleOf(m_fileName));

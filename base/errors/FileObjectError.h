@@ -1,8 +1,10 @@
-// FileObjectError.h - a section or key missing from a configuration file.
+// FileObjectError.h - a section or key missing from a configuration file,
+// or a value there that cannot be read as the type asked for.
 //
 // Thrown by FileObject when its throw mode is on, else only described by
 // the object's status. The message comes from section "FileObject Error"
-// of the error-message file, keys "SectionNotFound" and "KeyNotFound".
+// of the error-message file, keys "SectionNotFound", "KeyNotFound" and
+// "ValueNotConverted".
 #pragma once
 
 #include <base/errors/Error.h>
@@ -11,7 +13,7 @@ namespace vex {
 
 class VEXBASE_API FileObjectError : public Error {
   public:
-    enum KIND { SECTION_NOT_FOUND = 0, KEY_NOT_FOUND = 1 };
+    enum KIND { SECTION_NOT_FOUND = 0, KEY_NOT_FOUND = 1, VALUE_NOT_CONVERTED = 2 };
 
     FileObjectError(const CString& section, const CString& key, const CString& fileName, KIND kind);
 
