@@ -4,6 +4,7 @@
 
 #include <base/framework/Scan.h>
 #include <base/framework/TextEncoding.h>
+#include <base/strings/Precision.h>
 
 namespace vex {
 namespace {
@@ -158,6 +159,17 @@ bool FileObject::SetItem(const CString& section, const CString& key, bool value,
                          bool createSection) {
     CString text;
     text.Format(u"%d", value ? 1 : 0);
+    return SetItem(section, key, text, createSection);
+}
+
+// As many decimals as the value really carries: the format itself is
+// formatted first, "%.06lf" for six decimals.
+bool FileObject::SetItem(const CString& section, const CString& key, double value,
+                         bool createSection) {
+    CString format;
+    format.Format(u"%%.%2.2dlf", GetDoublePrecision(value));
+    CString text;
+    text.Format(format, value);
     return SetItem(section, key, text, createSection);
 }
 

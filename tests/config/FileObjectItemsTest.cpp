@@ -95,6 +95,33 @@ TEST(FileObject, WritesTypedItemsInTheirFormats) {
               "narrow=narrow;string=std;CStringA=cstra;");
 }
 
+// Doubles get the decimals they carry: GetDoublePrecision gives 0 for 3,
+// 1 for 2.5 and 0.1, 4 for 1234.5678, 16 for 1e-20.
+TEST(FileObject, WritesDoublesWithTheDecimalsTheyCarry) {
+    struct Case {
+        double value;
+        const char* text;
+        double readBack;
+    };
+    const Case cases[] = {
+        {3.0, "3", 3.0},
+        {2.5, "2.5", 2.5},
+        {-0.1, "-0.1", -0.1},
+        {1234.5678, "1234.5678", 1234.5678},
+        {1e-20, "0.0000000000000000", 0.0},
+    };
+    for (const Case& c : cases) {
+        FileObject file;
+        file.SetItem(u"D", u"v", c.value);
+        CString text;
+        ASSERT_TRUE(file.GetItem(u"D", u"v", text));
+        EXPECT_EQ(text.ToUtf8(), c.text) << c.value;
+        double back = 0;
+        EXPECT_TRUE(file.GetItem(u"D", u"v", back));
+        EXPECT_EQ(back, c.readBack);
+    }
+}
+
 TEST(FileObject, SettingAnItemReplacesInPlaceOrAppends) {
     FileObject file;
     EXPECT_FALSE(file.SetItem(u"A", u"k", u"v", false));
