@@ -61,13 +61,16 @@ void DecodeUtf8Line(std::string_view bytes, std::u16string& text) {
     const auto* const end = in + bytes.size();
     while (in != end) {
         // Eight ASCII bytes at a time where the text allows.
-        std::uint64_t eight = 0;
-        if (end - in >= 8 && (std::memcpy(&eight, in, 8), (eight & 0x8080808080808080u) == 0)) {
-            for (int k = 0; k < 8; ++k)
-                out[k] = in[k];
-            in += 8;
-            out += 8;
-            continue;
+        if (end - in >= 8) {
+            std::uint64_t eight = 0;
+            std::memcpy(&eight, in, sizeof eight);
+            if ((eight & 0x8080808080808080u) == 0) {
+                for (int k = 0; k < 8; ++k)
+                    out[k] = in[k];
+                in += 8;
+                out += 8;
+                continue;
+            }
         }
         if (*in < 0x80) {
             *out++ = *in++;

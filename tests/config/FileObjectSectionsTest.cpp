@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <sstream>
 
 namespace vex {
 namespace {
@@ -247,6 +248,15 @@ TEST(FileObject, ComparesContentsNotOrderAndCopiesAreIndependent) {
     EXPECT_EQ(Describe(a), "[A]x=1;y=2;[B]");
     FileObject moved(std::move(assigned));
     EXPECT_EQ(Describe(moved), "[B]");
+}
+
+TEST(FileObject, DumpShowsTheFileNameStatusAndText) {
+    FileObject file;
+    ASSERT_TRUE(Parse(file, "[A]\r\nk=v\r\n"));
+    file.SetCompactMode(true);
+    std::wostringstream out;
+    file.dump(out);
+    EXPECT_EQ(out.str(), L"FileObject \"C:\\Vex\\test.ini\": 1 sections, status 0\n[A]\nk=v\n");
 }
 
 }  // namespace
