@@ -11,6 +11,8 @@
 #pragma once
 
 #include <base/Export.h>
+#include <base/config/Config.h>
+#include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
 #include <base/geometry/Geometry.h>
 #include <base/strings/FormatString.h>

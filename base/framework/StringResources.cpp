@@ -24,6 +24,8 @@ constexpr Resource kResources[] = {
     {IDS_UNKNOWN, u"Unknown"},
     {IDS_SECTION_NOT_FOUND, u"Section \"%s\" could not be found in \"%s\"."},
     {IDS_KEY_NOT_FOUND, u"The key \"%s\" could not be found in section \"%s\" of \"%s\"."},
+    {IDS_VALUE_NOT_CONVERTED,
+     u"The value of key \"%s\" in section \"%s\" of \"%s\" is not of the expected type."},
     {IDS_DEGREE_SIGN, u"\u00B0"},
 };
 

@@ -25,7 +25,9 @@ enum StringResourceId : int {
     IDS_UNKNOWN = 12039,            // Unknown
     IDS_SECTION_NOT_FOUND = 12040,  // Section "%s" could not be found in "%s".
     IDS_KEY_NOT_FOUND = 12041,      // The key "%s" could not be found in section "%s" of "%s".
-    IDS_DEGREE_SIGN = 12100,        // the degree sign of angle texts
+    // The value of key "%s" in section "%s" of "%s" is not of the expected type.
+    IDS_VALUE_NOT_CONVERTED = 12042,
+    IDS_DEGREE_SIGN = 12100,  // the degree sign of angle texts
 };
 
 // Copies the text of string resource id into text; false, with text
