@@ -50,6 +50,15 @@ class VEXBASE_API CRCChecksum {
     unsigned int m_register = 0xFFFFFFFFu;
 };
 
+namespace detail {
+// For tests and benchmarks: whether CRC-32 uses the processor's carry-less
+// multiplication, and an update of a raw register that may be kept to the
+// portable table path. Both paths give identical results.
+VEXBASE_API bool Crc32IsAccelerated();
+VEXBASE_API unsigned int Crc32Update(unsigned int reg, const void* data, std::size_t size,
+                                     bool allowAccelerated);
+}  // namespace detail
+
 // CRC-16 with the reflected polynomial 0x8408, start 0, no final inversion
 // ("123456789" gives 0x2189). An empty or reversed range gives 0.
 VEXBASE_API unsigned short Compute16BitCRC(const unsigned char* begin, const unsigned char* end);

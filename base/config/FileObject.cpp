@@ -302,9 +302,25 @@ bool FileObject::HasKey(const CString& section, const CString& key) const {
 
 // --- iteration ------------------------------------------------------------------
 
+namespace {
+
+constexpr std::u16string_view kChecksumSection = u"Checksum";
+
+// The entry itself, or the one after it when it is the checksum section.
+template <class Table, class Entry>
+const Entry* PassChecksum(const Table& table, const Entry* entry) {
+    if (entry != nullptr && entry->key.View() == kChecksumSection)
+        entry = table.After(entry->sequence);
+    return entry;
+}
+
+}  // namespace
+
+const CString FileObject::CHECKSUM_SECTION(kChecksumSection);
+
 bool FileObject::GetFirstSectionEntry(FobjSection& section, CString& name) const {
     m_errorStatus = statusOk;
-    const SectionTable::Entry* first = m_sections.First();
+    const SectionTable::Entry* first = PassChecksum(m_sections, m_sections.First());
     if (first == nullptr) return false;
     FillHandle(section, *first);
     name = first->key;
@@ -313,7 +329,8 @@ bool FileObject::GetFirstSectionEntry(FobjSection& section, CString& name) const
 
 bool FileObject::GetNextSectionEntry(FobjSection& section, CString& name) const {
     m_errorStatus = statusOk;
-    const SectionTable::Entry* next = m_sections.After(section.m_sectionCursor);
+    const SectionTable::Entry* next =
+        PassChecksum(m_sections, m_sections.After(section.m_sectionCursor));
     if (next == nullptr) return false;
     FillHandle(section, *next);
     name = next->key;

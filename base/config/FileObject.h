@@ -61,7 +61,14 @@ class VEXBASE_API FileObject {
         statusNoFileName = 8,
         // The file could not be opened, created, read or saved.
         statusFileNotOpened = 9,
+        // ApplyDifference: a section name of the difference is not
+        // "add.", "change." or "remove." followed by a section name.
+        statusNotADifference = 10,
     };
+
+    // The name of the reserved section that guards a file's integrity (see
+    // ChecksumSection.h). Section iteration and differences pass over it.
+    static const CString CHECKSUM_SECTION;
 
     // The open flags FileOpen uses when given none: read, deny writes to others.
     static constexpr unsigned kReadFlags = CFile::modeRead | CFile::shareDenyWrite;
@@ -208,9 +215,45 @@ class VEXBASE_API FileObject {
     bool DeleteItem(const CString& section, const CString& key, bool deleteEmptySection = false);
     bool HasKey(const CString& section, const CString& key) const;
 
+    // --- differences --------------------------------------------------------
+    // Describes how other differs from this object, as sections
+    // "add." + name, "change." + name and "remove." + name of difference,
+    // which is emptied first. This object is the base, other the target:
+    //   - a key only in other goes to "add.", with its value;
+    //   - a key in both with another value goes to "change.", with other's
+    //     value (values compare as exact texts);
+    //   - a key only in this object goes to "remove.", with its old value;
+    //   - a section only in other is added whole, one only in this object
+    //     is removed whole.
+    // Sections without keys are described too: an "add." section with no
+    // keys creates the (empty) section, a "remove." section with no keys
+    // deletes it. Keys beginning with "@tr." (translated texts) follow the
+    // same rules as every other key, so that the target's translations
+    // arrive exactly. The section "Checksum" is never compared or written.
+    // Within a section the difference lists additions, then changes, then
+    // removals (removals first when the target section is empty), which is
+    // the order ApplyDifference needs. Always true.
+    bool GetDifference(const FileObject& other, FileObject& difference) const;
+    // Applies a difference made by GetDifference (or written by hand in its
+    // form), section by section in the difference's order: "add." and
+    // "change." create the section when it is missing and set each item;
+    // "remove." deletes each listed key that is there, then the section
+    // itself if it is left empty. Afterwards the object equals the target
+    // of the difference (operator==): keys and sections that already
+    // existed keep their places, new ones are appended, so the order of
+    // the target is not reproduced. A difference section named "Checksum"
+    // or aimed at "Checksum" is passed over, and this object's own checksum
+    // section is left as it is (WriteChecksumSection brings it up to date).
+    // Status 10 and false, the object unchanged, when a section name of
+    // the difference has no known operation word.
+    virtual bool ApplyDifference(const FileObject& difference);
+    // True when GetDifference(other, ...) would produce any section.
+    bool HasDifferences(const FileObject& other) const;
+
     // --- iteration ----------------------------------------------------------
-    // Walk the section names in section order; false at the end. The
-    // handle refers to the section handed out.
+    // Walk the section names in section order, passing over the section
+    // "Checksum"; false at the end. The handle refers to the section
+    // handed out.
     bool GetFirstSectionEntry(FobjSection& section, CString& name) const;
     bool GetNextSectionEntry(FobjSection& section, CString& name) const;
     // Walk the items of one section in key order; false at the end, and
@@ -286,6 +329,7 @@ class VEXBASE_API FileObject {
 
   private:
     class Loader;
+    struct DifferenceSink;
     using SectionTable = detail::OrderedTable<std::shared_ptr<detail::SectionData>>;
 
     bool OpenFile(const CString& name, unsigned flags);
@@ -303,6 +347,9 @@ class VEXBASE_API FileObject {
     template <class Text>
     void RenderTo(Text& text) const;
     bool ReportSaveFailure(const CString& name) const;
+    // Walks the differences from this object to other; false when the sink
+    // asked to stop.
+    bool CompareWith(const FileObject& other, DifferenceSink& sink) const;
 
     detail::SectionData* FindSection(const CString& name) const;
     detail::SectionData& SectionForWriting(const CString& name, bool clear);

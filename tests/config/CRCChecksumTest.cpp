@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <random>
+#include <string>
 #include <vector>
 
 namespace vex {
@@ -38,10 +41,135 @@ TEST(CRCChecksum, MatchesTheCommonCrc32) {
     EXPECT_EQ(number.ValueInverted(), 0xCBF43926u);
 }
 
+// Every overload fed "123456789" its own way gives the check value; wide
+// texts carry junk in their high bytes, which must not count.
+TEST(CRCChecksum, EveryOverloadFeedsTheDocumentedBytes) {
+    const std::wstring wide = L"1\u0132345\u0F36789";
+    const wchar_t* wideText = wide.c_str();
+    struct Case {
+        const char* name;
+        void (*feed)(CRCChecksum&);
+    };
+    static const Case cases[] = {
+        {"unsigned char",
+         [](CRCChecksum& c) {
+             for (const char ch : std::string("123456789"))
+                 c += static_cast<unsigned char>(ch);
+         }},
+        {"int",
+         [](CRCChecksum& c) {
+             c += 0x34333231;
+             c += 0x38373635;
+             c += "9";
+         }},
+        {"unsigned int",
+         [](CRCChecksum& c) {
+             c += 0x34333231u;
+             c += 0x38373635u;
+             c += "9";
+         }},
+        {"const char*",
+         [](CRCChecksum& c) {
+             c += "1234";
+             c += static_cast<const char*>(nullptr);
+             c += "56789";
+         }},
+        {"const wchar_t*",
+         [](CRCChecksum& c) {
+             c += L"1\u0132345";
+             c += static_cast<const wchar_t*>(nullptr);
+             c += L"\u0F36789";
+         }},
+        {"CString", [](CRCChecksum& c) { c += CString(u"1\u0132345\u0F36789"); }},
+        {"std::wstring", [](CRCChecksum& c) { c += std::wstring(L"1\u0132345\u0F36789"); }},
+        {"u16string_view",
+         [](CRCChecksum& c) { c += std::u16string_view(u"\uFF31234567\u2038\u0139"); }},
+        {"Add",
+         [](CRCChecksum& c) {
+             c.Add("123456789", 9);
+             c.Add(nullptr, 5);
+         }},
+    };
+    for (const Case& c : cases) {
+        CRCChecksum crc;
+        c.feed(crc);
+        EXPECT_EQ(crc.ValueInverted(), 0xCBF43926u) << c.name;
+        EXPECT_EQ(crc.Value(), ~0xCBF43926u) << c.name;
+    }
+    CRCChecksum fromPointer;
+    fromPointer += wideText;
+    CRCChecksum fromString;
+    fromString += wide;
+    EXPECT_EQ(fromPointer.Value(), fromString.Value());
+    // Negative numbers feed their two's complement: four 0xFF bytes.
+    CRCChecksum minusOne;
+    minusOne += -1;
+    EXPECT_EQ(minusOne.ValueInverted(), 0xFFFFFFFFu);
+    CRCChecksum one;
+    one += static_cast<unsigned char>('1');
+    EXPECT_EQ(one.ValueInverted(), 0x83DCEFB7u);
+}
+
+// Expected: Python's zlib.crc32(bytes(range(256)) * 3).
+TEST(CRCChecksum, PiecesGiveTheSameValueAsTheWhole) {
+    std::vector<unsigned char> bytes(768);
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<unsigned char>(i);
+    for (std::size_t split = 0; split <= bytes.size(); split += 37) {
+        CRCChecksum crc;
+        crc.Add(bytes.data(), split);
+        crc.Add(bytes.data() + split, bytes.size() - split);
+        EXPECT_EQ(crc.ValueInverted(), 0xB0C0DF2Au) << split;
+    }
+}
+
+// The carry-less multiplication path, where the processor has it, against
+// the table path: every length up to 1100 from every start in a 16-byte
+// block, and random registers.
+TEST(CRCChecksum, AcceleratedAndTablePathsAgree) {
+    std::mt19937 random(11);
+    std::vector<unsigned char> bytes(1200);
+    for (unsigned char& b : bytes)
+        b = static_cast<unsigned char>(random());
+    for (std::size_t offset = 0; offset < 16; ++offset) {
+        for (std::size_t length = 0; length <= 1100; ++length) {
+            const unsigned int reg = static_cast<unsigned int>(random());
+            ASSERT_EQ(detail::Crc32Update(reg, bytes.data() + offset, length, true),
+                      detail::Crc32Update(reg, bytes.data() + offset, length, false))
+                << "offset " << offset << " length " << length;
+        }
+    }
+    if (!detail::Crc32IsAccelerated()) GTEST_SKIP() << "no carry-less multiplication here";
+}
+
+TEST(CRCChecksum, EightBitOrEqualsThePlainOrForEveryLengthAndAlignment) {
+    std::mt19937 random(7);
+    std::vector<unsigned char> buffer(32 + 300 + 32);
+    for (std::size_t align = 0; align < 32; ++align) {
+        for (std::size_t length = 0; length <= 300; ++length) {
+            // Zero bytes with one or two single bits inside the range, and
+            // all bits set just outside it.
+            std::fill(buffer.begin(), buffer.end(), static_cast<unsigned char>(0xFF));
+            unsigned char* begin = buffer.data() + align;
+            std::fill(begin, begin + length, static_cast<unsigned char>(0));
+            for (int i = 0; i < 2 && length > 0; ++i)
+                begin[random() % length] |= static_cast<unsigned char>(1u << (random() % 8));
+            unsigned char plain = 0;
+            for (std::size_t i = 0; i < length; ++i)
+                plain |= begin[i];
+            ASSERT_EQ(Compute8BitCRC(begin, begin + length), plain)
+                << "length " << length << " alignment " << align;
+        }
+    }
+}
+
 TEST(CRCChecksum, SixteenAndEightBitChecks) {
     const unsigned char digits[] = {'1', '2', '3', '4', '5', '6', '7', '8', '9'};
     EXPECT_EQ(Compute16BitCRC(digits, digits + 9), 0x2189);
     EXPECT_EQ(Compute16BitCRC(digits, digits), 0);
+    EXPECT_EQ(Compute16BitCRC(digits + 9, digits), 0);
+    EXPECT_EQ(Compute16BitCRC(nullptr, nullptr), 0);
+    EXPECT_EQ(Compute8BitCRC(nullptr, nullptr), 0);
     const unsigned char bits[] = {0x01, 0x02, 0x80};
     EXPECT_EQ(Compute8BitCRC(bits, bits + 3), 0x83);
     EXPECT_EQ(Compute8BitCRC(bits + 3, bits), 0);
