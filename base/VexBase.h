@@ -13,6 +13,7 @@
 #include <base/Export.h>
 #include <base/framework/Framework.h>
 #include <base/geometry/Geometry.h>
+#include <base/strings/FormatString.h>
 #include <base/time/Time.h>
 
 namespace vex {

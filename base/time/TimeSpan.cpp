@@ -1,5 +1,7 @@
 #include <base/time/TimeSpan.h>
 
+#include <base/strings/Precision.h>
+
 #include <cmath>
 #include <cstdint>
 
@@ -21,6 +23,22 @@ CString TimeSpanToString(double ms, bool seconds) {
                       static_cast<int>(span / 60 % 60));
     if (seconds) text.AppendFormat(u":%02d", static_cast<int>(span % 60));
     return text;
+}
+
+double TimeInterval(double s) {
+    if (s <= 15.0) return Double125(s);
+    // Steps that a clock face divides evenly, each for the spans up to about
+    // one and a half times itself.
+    static constexpr struct {
+        double below;
+        double step;
+    } kSteps[] = {{45, 30},       {90, 60},       {180, 120},     {450, 300},     {1200, 600},
+                  {2700, 1800},   {5400, 3600},   {10800, 7200},  {18000, 14400}, {25200, 21600},
+                  {32400, 28800}, {64800, 43200}, {129600, 86400}};
+    for (const auto& row : kSteps) {
+        if (s < row.below) return row.step;
+    }
+    return Double125(s / 86400.0) * 86400.0;
 }
 
 int MinuteInterval(int minutes) {

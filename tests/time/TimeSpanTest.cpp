@@ -36,6 +36,22 @@ TEST(TimeSpan, MinuteStepsRoundUpToFives) {
         EXPECT_EQ(MinuteInterval(c[0]), c[1]) << c[0];
 }
 
+TEST(TimeSpan, AxisStepsAreRoundClockIntervals) {
+    const double cases[][2] = {
+        {0, 1},           {0.4, 0.5},     {1, 1},         {3, 2},          {7, 5},
+        {8, 10},          {15, 10},       {-5, 5},        {16, 30},        {44.9, 30},
+        {45, 60},         {89, 60},       {90, 120},      {179, 120},      {180, 300},
+        {449, 300},       {450, 600},     {1199, 600},    {1200, 1800},    {2699, 1800},
+        {2700, 3600},     {5399, 3600},   {5400, 7200},   {10799, 7200},   {10800, 14400},
+        {17999, 14400},   {18000, 21600}, {25199, 21600}, {25200, 28800},  {32399, 28800},
+        {32400, 43200},   {64799, 43200}, {64800, 86400}, {129599, 86400}, {129600, 86400},
+        {345600, 432000},  // four days: a step of five
+        {864000, 864000},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(TimeInterval(c[0]), c[1]) << c[0];
+}
+
 TEST(TimePoint, CarriesAPointAndATime) {
     TimePoint fix(Point(1.0, 2.0, 3.0), 1.5e12);
     EXPECT_EQ(fix.x, 1.0);
