@@ -9,6 +9,8 @@
 #include <base/Export.h>
 
 #include <ctime>
+#include <optional>
+#include <string>
 
 namespace vex::platform {
 
@@ -25,5 +27,13 @@ VEXBASE_API bool UtcCalendar(std::time_t when, std::tm& out);
 // mktime does. -1 when the fields cannot be represented.
 VEXBASE_API std::time_t FromLocalCalendar(std::tm& fields);
 VEXBASE_API std::time_t FromUtcCalendar(std::tm& fields);
+
+// Sets the process's TZ variable (nullptr removes it) and re-reads the zone.
+// Changing the environment races with other threads' local-time calls, so
+// this is for start-up and tests. The Windows C runtime reads TZ only as
+// "tzn[+|-]hh[:mm[:ss]][dzn]" with U.S. daylight-saving rules.
+VEXBASE_API void SetTimeZoneVariable(const char* value);
+// The TZ variable, or nothing when it is not set.
+VEXBASE_API std::optional<std::string> GetTimeZoneVariable();
 
 }  // namespace vex::platform

@@ -1,5 +1,6 @@
 #include <base/platform/TimeZone.h>
 
+#include <stdlib.h>
 #include <time.h>
 
 namespace vex::platform {
@@ -32,6 +33,21 @@ std::time_t FromLocalCalendar(std::tm& fields) {
 
 std::time_t FromUtcCalendar(std::tm& fields) {
     return timegm(&fields);
+}
+
+void SetTimeZoneVariable(const char* value) {
+    if (value != nullptr) {
+        setenv("TZ", value, 1);
+    } else {
+        unsetenv("TZ");
+    }
+    tzset();
+}
+
+std::optional<std::string> GetTimeZoneVariable() {
+    const char* value = getenv("TZ");
+    if (value == nullptr) return std::nullopt;
+    return std::string(value);
 }
 
 }  // namespace vex::platform

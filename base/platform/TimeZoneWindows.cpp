@@ -1,5 +1,6 @@
 #include <base/platform/TimeZone.h>
 
+#include <stdlib.h>
 #include <time.h>
 
 namespace vex::platform {
@@ -32,6 +33,19 @@ std::time_t FromLocalCalendar(std::tm& fields) {
 
 std::time_t FromUtcCalendar(std::tm& fields) {
     return _mkgmtime(&fields);
+}
+
+void SetTimeZoneVariable(const char* value) {
+    // "TZ=" removes the variable; the runtime copies the text.
+    const std::string assignment = std::string("TZ=") + (value != nullptr ? value : "");
+    _putenv(assignment.c_str());
+    _tzset();
+}
+
+std::optional<std::string> GetTimeZoneVariable() {
+    const char* value = getenv("TZ");
+    if (value == nullptr) return std::nullopt;
+    return std::string(value);
 }
 
 }  // namespace vex::platform

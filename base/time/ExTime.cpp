@@ -1,0 +1,501 @@
+#include <base/time/ExTime.h>
+
+#include <base/framework/Format.h>
+#include <base/framework/Scan.h>
+#include <base/platform/TimeZone.h>
+#include <base/time/CivilCalendar.h>
+#include <base/time/ClockSource.h>
+#include <base/time/ExTimeSync.h>
+
+#include <algorithm>
+#include <atomic>
+#include <bit>
+#include <cmath>
+#include <cwchar>
+#include <limits>
+#include <mutex>
+#include <stdexcept>
+#include <string>
+
+namespace vex {
+
+static_assert(sizeof(std::time_t) == 8, "time values need a 64-bit time_t");
+
+namespace {
+
+constexpr double kTwoTo31 = 2147483648.0;
+constexpr double kTwoTo32 = 4294967296.0;
+constexpr long long kFileTimeOf1970 = static_cast<long long>(platform::kFileTimeOf1970);
+// Days from 1899-12-30, day 0 of OLE dates, to 1970-01-01.
+constexpr std::int64_t kOleDayOf1970 = -detail::DaysFromCivil(1899, 12, 30);
+// Julian day number of 0000-02-29: the day before day 1 of a count of days
+// from 1 March of year 0.
+constexpr long kJulianEpochOffset = 1721119;
+// Days from 0000-03-01 (day 0) to 1970-01-01.
+constexpr std::int64_t kMarchDaysOf1970 = 719468;
+
+// Process-wide state; constant-initialised and trivially destroyed, so the
+// time stays readable while other static objects are torn down at exit.
+struct ExTimeState {
+    std::mutex m_lock;
+    double m_time1970Base = 0.0;
+    double m_prevVexTime = 0.0;
+    double m_a0 = 0.0;
+    double m_a1 = 1.0;
+    double m_p0 = 0.0;
+    std::atomic<double> m_lastUtcUpdate{0.0};
+    double m_lastUtcUpdateCheckTime = 0.0;
+    bool m_bTimeSyncDone = false;
+    std::atomic<bool> m_firstTimeInit{false};
+    bool m_masterClock = true;
+    std::atomic<ClockSource*> m_source{nullptr};
+};
+
+constinit ExTimeState state;
+
+ClockSource& Clock() {
+    ClockSource* source = state.m_source.load(std::memory_order_acquire);
+    return source != nullptr ? *source : SystemClockSource();
+}
+
+double CounterMs(const ClockSource& clock) {
+    const double frequency = static_cast<double>(clock.CounterFrequency());
+    if (!(frequency > 0.0)) return 0.0;
+    return static_cast<double>(clock.CounterNow()) / (frequency / 1000.0);
+}
+
+// The integer of a floating value, saturated, 0 for NaN: never undefined.
+std::int64_t SaturatedInt64(double value) {
+    if (std::isnan(value)) return 0;
+    if (value >= 0x1p63) return std::numeric_limits<std::int64_t>::max();
+    if (value < -0x1p63) return std::numeric_limits<std::int64_t>::min();
+    return static_cast<std::int64_t>(value);
+}
+
+// Whole seconds of t rounded down, so that times before 1970 break down
+// into the second they lie in.
+std::time_t FloorSeconds(double t) {
+    return static_cast<std::time_t>(SaturatedInt64(std::floor(t / 1000.0)));
+}
+
+// Ms past the whole second of t, 0..999.
+int MillisecondsOf(double t, std::time_t seconds) {
+    const double ms = t - static_cast<double>(seconds) * 1000.0;
+    return std::clamp(static_cast<int>(SaturatedInt64(ms)), 0, 999);
+}
+
+bool LocalFields(double t, std::time_t& seconds, std::tm& fields) {
+    if (!std::isfinite(t)) return false;
+    seconds = FloorSeconds(t);
+    return platform::LocalCalendar(seconds, fields);
+}
+
+// strftime into a 128-character buffer, as wide text.
+CString FormatLocal(const wchar_t* format, const std::tm& fields) {
+    wchar_t buffer[128];
+    const std::size_t length = std::wcsftime(buffer, 128, format, &fields);
+    return CString(std::wstring_view(buffer, length));
+}
+
+}  // namespace
+
+CExTime::CExTime() {
+    if (!state.m_firstTimeInit.exchange(true)) CExTimeSync::GetExTimeSync()->StartSync();
+}
+
+// --- now -----------------------------------------------------------------
+
+double CExTime::GetExTime(double counterMs) {
+    ClockSource& clock = Clock();
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    if (!state.m_bTimeSyncDone) {
+        // The pause lets the clocks settle after start-up before the base
+        // is read.
+        clock.Pause(5);
+        const double systemMs = FileTimeToVexTime(clock.SystemFileTime());
+        const double counterNow = CounterMs(clock);
+        state.m_time1970Base = systemMs - counterNow;
+        state.m_prevVexTime = systemMs;
+        state.m_bTimeSyncDone = true;
+        state.m_lastUtcUpdateCheckTime = counterNow;
+    }
+    double t = state.m_time1970Base + counterMs;
+    if (counterMs > 0.0) {
+        double correction = 0.0;
+        if (state.m_prevVexTime - t > kTwoTo31) {
+            correction = kTwoTo32;
+        } else if (t - state.m_prevVexTime > kTwoTo31) {
+            correction = -kTwoTo32;
+        }
+        if (correction != 0.0) {
+            t += correction;
+            if (state.m_masterClock) state.m_time1970Base += correction;
+        }
+        state.m_prevVexTime = t;
+    }
+    if (!std::isnan(state.m_a0) && state.m_a0 != 0.0) {
+        t = (t - state.m_p0) * state.m_a1 + state.m_a0;
+    }
+    return t;
+}
+
+double CExTime::GetCurTime() {
+    return GetExTime(CounterMs(Clock()));
+}
+
+void CExTime::GetCurTime(std::time_t& seconds, int& milliseconds) {
+    const double t = GetCurTime();
+    seconds = FloorSeconds(t);
+    milliseconds = MillisecondsOf(t, seconds);
+}
+
+double CExTime::GetCurSystemTime() {
+    return CounterMs(Clock());
+}
+
+double CExTime::GetRawUnsyncedWindowsTime() {
+    return FileTimeToVexTime(Clock().SystemFileTime());
+}
+
+double CExTime::GetVexTime(double syncedTime) {
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    if (std::isnan(state.m_a0) || std::isnan(state.m_a1) || state.m_a1 == 0.0) return syncedTime;
+    return (syncedTime - state.m_a0) / state.m_a1 + state.m_p0;
+}
+
+// --- synchronisation -----------------------------------------------------
+
+bool CExTime::SetUtcCoeffs(double a0, double a1, double p0) {
+    ClockSource& clock = Clock();
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    state.m_a0 = a0;
+    state.m_a1 = a1;
+    state.m_p0 = p0;
+    const double now = CounterMs(clock);
+    state.m_lastUtcUpdate.store(now);
+    state.m_lastUtcUpdateCheckTime = now;
+    return true;
+}
+
+void CExTime::StoreFittedCoeffs(double a0, double a1, double p0) {
+    ClockSource& clock = Clock();
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    // An external source may have taken over since the worker looked.
+    if (state.m_lastUtcUpdate.load() != 0.0) return;
+    state.m_a0 = a0;
+    state.m_a1 = a1;
+    state.m_p0 = p0;
+    state.m_lastUtcUpdateCheckTime = CounterMs(clock);
+}
+
+void CExTime::ResetState(ClockSource* source) {
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    state.m_source.store(source, std::memory_order_release);
+    state.m_time1970Base = 0.0;
+    state.m_prevVexTime = 0.0;
+    state.m_a0 = 0.0;
+    state.m_a1 = 1.0;
+    state.m_p0 = 0.0;
+    state.m_lastUtcUpdate.store(0.0);
+    state.m_lastUtcUpdateCheckTime = 0.0;
+    state.m_bTimeSyncDone = false;
+    state.m_firstTimeInit.store(false);
+    state.m_masterClock = true;
+}
+
+double CExTime::GetLastUtcUpdate() {
+    return state.m_lastUtcUpdate.load();
+}
+
+double CExTime::GetUtcUpdateAge() {
+    const double now = CounterMs(Clock());
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    return now - state.m_lastUtcUpdateCheckTime;
+}
+
+bool CExTime::SetBaseTime(double t) {
+    const double now = CounterMs(Clock());
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    state.m_bTimeSyncDone = true;
+    state.m_time1970Base = t;
+    state.m_masterClock = false;
+    state.m_prevVexTime = now + t;
+    return true;
+}
+
+double CExTime::GetWin1970BaseTime() {
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    return state.m_time1970Base;
+}
+
+std::uint32_t CExTime::GetWinTime(double t) {
+    double counter = t - GetWin1970BaseTime();
+    if (counter < 0.0) {
+        counter += kTwoTo32;
+    } else if (counter > kTwoTo32) {
+        counter -= kTwoTo32;
+    }
+    // Cut to 32 bits, as the counter register would be.
+    return static_cast<std::uint32_t>(static_cast<std::uint64_t>(SaturatedInt64(counter)));
+}
+
+bool CExTime::AdjustRTC() {
+    const double now = GetCurTime();
+    if (!std::isfinite(now)) return false;
+    // The UTC breakdown gives directly what local time shifted by the zone
+    // offset would, also in the hour around a daylight-saving change.
+    const std::time_t seconds = FloorSeconds(now);
+    int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
+    if (!TimeToUtcDate(seconds, year, month, day, hour, minute, second)) return false;
+    platform::UtcCalendarTime fields;
+    fields.year = year;
+    fields.month = month;
+    fields.day = day;
+    fields.hour = hour;
+    fields.minute = minute;
+    fields.second = second;
+    fields.millisecond = MillisecondsOf(now, seconds);
+    ClockSource& clock = Clock();
+    std::lock_guard<std::mutex> lock(state.m_lock);
+    return clock.SetSystemTimeUtc(fields);
+}
+
+long CExTime::GetTimezone() {
+    const long offset = platform::TimeZoneOffsetSeconds();
+    const std::time_t now = FloorSeconds(GetRawUnsyncedWindowsTime());
+    return (platform::IsDaylightSavingTime(now) ? offset - 3600 : offset) * 1000;
+}
+
+// --- conversions ---------------------------------------------------------
+
+std::time_t CExTime::ConvertToCTime(double t) {
+    return static_cast<std::time_t>(SaturatedInt64(t / 1000.0));
+}
+
+std::time_t CExTime::MsecToCTime(double t) {
+    return ConvertToCTime(t);
+}
+
+double CExTime::ConvertCTime(std::time_t seconds) {
+    return static_cast<double>(seconds) * 1000.0;
+}
+
+double CExTime::ConvertOleTime(double oleDate) {
+    // OLE dates run from year 100 to 9999; before 1900 is refused anyway.
+    if (!(oleDate >= 2.0 && oleDate < 2958466.0)) return 0.0;
+    std::int64_t days = static_cast<std::int64_t>(std::floor(oleDate));
+    long long secondOfDay = std::llround((oleDate - static_cast<double>(days)) * 86400.0);
+    if (secondOfDay == 86400) {
+        ++days;
+        secondOfDay = 0;
+    }
+    const detail::CivilDate date = detail::CivilFromDays(days - kOleDayOf1970);
+    if (date.year < 1900 || date.year > 9999) return 0.0;
+    std::tm fields{};
+    fields.tm_year = static_cast<int>(date.year) - 1900;
+    fields.tm_mon = date.month - 1;
+    fields.tm_mday = date.day;
+    fields.tm_hour = static_cast<int>(secondOfDay / 3600);
+    fields.tm_min = static_cast<int>(secondOfDay / 60 % 60);
+    fields.tm_sec = static_cast<int>(secondOfDay % 60);
+    fields.tm_isdst = -1;
+    const std::time_t seconds = platform::FromLocalCalendar(fields);
+    if (seconds == static_cast<std::time_t>(-1)) return 0.0;
+    return ConvertCTime(seconds);
+}
+
+double CExTime::ConvertToOleTime(double t) {
+    std::time_t seconds = 0;
+    std::tm fields{};
+    if (!LocalFields(t, seconds, fields)) return 0.0;
+    const std::int64_t days =
+        detail::DaysFromCivil(fields.tm_year + 1900LL, fields.tm_mon + 1, fields.tm_mday) +
+        kOleDayOf1970;
+    const double dayFraction =
+        (fields.tm_hour * 3600.0 + fields.tm_min * 60.0 + fields.tm_sec) / 86400.0;
+    // Before day 0 the fraction still counts forward from midnight:
+    // -1.25 is 1899-12-29 06:00.
+    return days >= 0 ? static_cast<double>(days) + dayFraction
+                     : static_cast<double>(days) - dayFraction;
+}
+
+double CExTime::FileTimeToVexTime(unsigned long long fileTime) {
+    // Two's complement wrap gives the signed count for times before 1970.
+    const long long ticks = static_cast<long long>(fileTime - platform::kFileTimeOf1970);
+    return static_cast<double>(ticks / 10000) + static_cast<double>(ticks % 10000) / 10000.0;
+}
+
+unsigned long long CExTime::VexTimeToFileTime(double t) {
+    // Whole ms and the fraction apart: t * 10000 would lose the last tick.
+    if (!std::isfinite(t)) return 0;
+    const double wholeMs = std::floor(t);
+    const double lowest = -static_cast<double>(kFileTimeOf1970) / 10000.0;
+    const double highest =
+        (static_cast<double>(std::numeric_limits<long long>::max()) - kFileTimeOf1970) / 10000.0;
+    if (wholeMs < lowest || wholeMs >= highest - 1.0) return 0;
+    const long long ticks = static_cast<long long>(wholeMs) * 10000 +
+                            static_cast<long long>(std::llround((t - wholeMs) * 10000.0));
+    return static_cast<unsigned long long>(ticks + kFileTimeOf1970);
+}
+
+// --- calendar ------------------------------------------------------------
+
+int CExTime::GetHHMMSS(double t) {
+    std::time_t seconds = 0;
+    std::tm fields{};
+    if (!LocalFields(t, seconds, fields)) return -10101;
+    return fields.tm_hour * 10000 + fields.tm_min * 100 + fields.tm_sec;
+}
+
+std::time_t CExTime::TimestampToDaytime(double t, double& secondsOfDay) {
+    std::time_t seconds = 0;
+    std::tm fields{};
+    if (!LocalFields(t, seconds, fields)) {
+        fields.tm_hour = fields.tm_min = fields.tm_sec = -1;
+    }
+    const double fraction =
+        std::isfinite(t) ? (t - static_cast<double>(seconds) * 1000.0) / 1000.0 : 0.0;
+    secondsOfDay = fields.tm_hour * 3600.0 + fields.tm_min * 60.0 + fields.tm_sec + fraction;
+    return seconds;
+}
+
+std::time_t CExTime::UtcDateToTime(int year, int month, int day, int hour, int minute, int second) {
+    if (year < 1970 || year > 3000 || month < 1 || month > 12 || day < 1 || day > 31 || hour < 0 ||
+        hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59) {
+        return 0;
+    }
+    const std::int64_t days = detail::DaysFromCivil(year, month, day);
+    return static_cast<std::time_t>(days * 86400 + hour * 3600 + minute * 60 + second);
+}
+
+bool CExTime::TimeToUtcDate(std::time_t seconds, int& year, int& month, int& day, int& hour,
+                            int& minute, int& second) {
+    const std::int64_t days = detail::FloorDiv(seconds, 86400);
+    const std::int64_t secondOfDay = detail::FloorMod(seconds, 86400);
+    const detail::CivilDate date = detail::CivilFromDays(days);
+    if (date.year < std::numeric_limits<int>::min() || date.year > std::numeric_limits<int>::max())
+        return false;
+    year = static_cast<int>(date.year);
+    month = date.month;
+    day = date.day;
+    hour = static_cast<int>(secondOfDay / 3600);
+    minute = static_cast<int>(secondOfDay / 60 % 60);
+    second = static_cast<int>(secondOfDay % 60);
+    return true;
+}
+
+bool CExTime::LeapYear(int year) {
+    return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+}
+
+bool CExTime::JulianDate(int year, int dayOfYear, int& month, int& day) {
+    // Days before each month, and before the next year.
+    static constexpr int kCommon[13] = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
+    static constexpr int kLeap[13] = {0, 31, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335, 366};
+    const int* before = LeapYear(year) ? kLeap : kCommon;
+    if (dayOfYear < 1 || dayOfYear > before[12]) return false;
+    int m = 1;
+    while (dayOfYear > before[m])
+        ++m;
+    month = m;
+    day = dayOfYear - before[m - 1];
+    return true;
+}
+
+long CExTime::ConvertToJulian(int dayOfYear, int year) {
+    if (year < -1000000 || year > 1000000) return 0;
+    // Days counted from 1 March of year 0 (day 1), as the astronomers'
+    // algorithm counts them; the Julian day number adds the epoch offset.
+    const std::int64_t marchDays =
+        detail::DaysFromCivil(year, 1, 1) + kMarchDaysOf1970 + 1 + (dayOfYear - 1);
+    return static_cast<long>(marchDays + kJulianEpochOffset);
+}
+
+double CExTime::ConvertToJulianFrac(double dayOfYear, int year) {
+    if (!(std::fabs(dayOfYear) < 1e9)) return 0.0;
+    const double wholeDay = std::floor(dayOfYear);
+    const long julian = ConvertToJulian(static_cast<int>(wholeDay), year);
+    if (julian == 0) return 0.0;
+    return static_cast<double>(julian) + (dayOfYear - wholeDay);
+}
+
+bool CExTime::ConvertFromJulian(long julian, int& dayOfYear, int& year) {
+    const std::int64_t marchDays = static_cast<std::int64_t>(julian) - kJulianEpochOffset - 1;
+    const std::int64_t days = marchDays - kMarchDaysOf1970;
+    const detail::CivilDate date = detail::CivilFromDays(days);
+    if (date.year < std::numeric_limits<int>::min() || date.year > std::numeric_limits<int>::max())
+        return false;
+    year = static_cast<int>(date.year);
+    dayOfYear = static_cast<int>(days - detail::DaysFromCivil(date.year, 1, 1) + 1);
+    return true;
+}
+
+// --- sonar records -------------------------------------------------------
+
+bool CExTime::TimeToMqTime(double t, TIME_MQ* record) {
+    if (record == nullptr) return false;
+    *record = TimeToMq(t);
+    return true;
+}
+
+bool CExTime::TimeFromMqTime(double& t, const TIME_MQ* record) {
+    if (record == nullptr) return false;
+    t = TimeFromMq(*record);
+    return true;
+}
+
+// --- text ----------------------------------------------------------------
+
+CString CExTime::TimeToString(double t, bool milliseconds, bool date, bool seconds) {
+    std::time_t whole = 0;
+    std::tm fields{};
+    if (!LocalFields(t, whole, fields)) {
+        throw std::invalid_argument("CExTime::TimeToString: the time has no local calendar form");
+    }
+    std::wstring format = date ? L"%x " : L"";
+    format += (seconds || milliseconds) ? L"%X" : L"%H:%M";
+    CString text = FormatLocal(format.c_str(), fields);
+    if (milliseconds) detail::AppendMilliseconds(text, MillisecondsOf(t, whole));
+    return text;
+}
+
+CString CExTime::TimeToStringISOFormat(double t, bool milliseconds) {
+    std::time_t whole = 0;
+    std::tm fields{};
+    if (!LocalFields(t, whole, fields)) return CString();
+    CString text = FormatLocal(L"%Y-%m-%d %H:%M:%S", fields);
+    if (milliseconds) text.AppendFormat(u".%3.3d", MillisecondsOf(t, whole));
+    return text;
+}
+
+CStringA CExTime::GetTimeStampString() {
+    return GetTimeStampString(GetCurTime());
+}
+
+CStringA CExTime::GetTimeStampString(double t) {
+    return CStringA(Format("<0x%16.16I64X>", std::bit_cast<unsigned long long>(t)));
+}
+
+double CExTime::TimeStampStringToTime(std::string_view text) {
+    unsigned long long bits = 0;
+    if (Scan(text, "<0x%16I64X>", &bits) != 1) return 0.0;
+    return std::bit_cast<double>(bits);
+}
+
+void detail::AppendMilliseconds(CString& text, int milliseconds) {
+    CString digits;
+    digits.Format(u".%3.3d", milliseconds);
+    const int length = text.GetLength();
+    if (length == 0 || text.GetAt(length - 1) != u'M') {
+        text += digits;
+        return;
+    }
+    int afterDigits = length;
+    const auto isDigit = [&text](int i) { return text.GetAt(i) >= u'0' && text.GetAt(i) <= u'9'; };
+    while (afterDigits > 0 && !isDigit(afterDigits - 1))
+        --afterDigits;
+    if (afterDigits == 0) afterDigits = length;
+    text = text.Left(afterDigits) + digits + text.Mid(afterDigits);
+}
+
+}  // namespace vex
