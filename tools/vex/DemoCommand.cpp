@@ -41,7 +41,8 @@ std::string PathText(const fs::path& p) {
 
 int RunDemo(bool keep) {
     std::error_code ec;
-    const fs::path folder = fs::temp_directory_path(ec) / ("vex-demo-" + std::to_string(fs::file_time_type::clock::now().time_since_epoch().count()));
+    const auto stamp = static_cast<unsigned long long>(fs::file_time_type::clock::now().time_since_epoch().count());
+    const fs::path folder = fs::temp_directory_path(ec) / ("vex-demo-" + std::to_string(stamp));
     if (ec || !fs::create_directories(folder, ec)) return Fail(kInputOutput, PathText(folder), "cannot create the demo folder");
     for (std::size_t i = 0; i < kEmbeddedSampleCount; ++i) {
         std::ofstream out(folder / kEmbeddedSamples[i].name, std::ios::binary);
