@@ -126,8 +126,8 @@ double CExTime::GetExTime(double counterMs) {
     ClockSource& clock = Clock();
     std::lock_guard<std::mutex> lock(state.m_lock);
     if (!state.m_bTimeSyncDone) {
-        // The pause lets the clocks settle after start-up before the base
-        // is read.
+        // The base is taken after a 5 ms pause, as the suite's clock has
+        // always done; callers time their start-up with it.
         clock.Pause(5);
         const double systemMs = FileTimeToVexTime(clock.SystemFileTime());
         const double counterNow = CounterMs(clock);
