@@ -127,7 +127,7 @@ double CExTime::GetExTime(double counterMs) {
     std::lock_guard<std::mutex> lock(state.m_lock);
     if (!state.m_bTimeSyncDone) {
         // The base is taken after a 5 ms pause, as the suite's clock has
-        // always done; callers time their start-up with it.
+        // always done.
         clock.Pause(5);
         const double systemMs = FileTimeToVexTime(clock.SystemFileTime());
         const double counterNow = CounterMs(clock);
