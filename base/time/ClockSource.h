@@ -18,7 +18,7 @@ namespace vex {
 //
 //   class FixedClock : public vex::ClockSource { ... };
 //   FixedClock clock;
-//   vex::detail::ResetTimeState(&clock);   // CExTime now reads clock
+//   vex::detail::TimeSyncDriver::ResetTimeState(&clock);  // CExTime reads clock
 class VEXBASE_API ClockSource {
   public:
     // The counter now, in ticks of CounterFrequency(); a counter of 32 bits

@@ -34,8 +34,7 @@ constexpr long kJulianEpochOffset = 1721119;
 // Days from 0000-03-01 (day 0) to 1970-01-01.
 constexpr std::int64_t kMarchDaysOf1970 = 719468;
 
-// Process-wide state; constant-initialised and trivially destroyed, so the
-// time stays readable while other static objects are torn down at exit.
+// Process-wide state.
 struct ExTimeState {
     std::mutex m_lock;
     double m_time1970Base = 0.0;
@@ -49,19 +48,37 @@ struct ExTimeState {
     std::atomic<bool> m_firstTimeInit{false};
     bool m_masterClock = true;
     std::atomic<ClockSource*> m_source{nullptr};
+    // 1000 / the source's counter frequency; 0 until first needed.
+    std::atomic<double> m_msPerTick{0.0};
 };
 
-constinit ExTimeState state;
+// Never destroyed, so that the time stays readable while other static
+// objects are torn down at exit (the mutex of some platforms has a
+// destructor).
+union NeverDestroyed {
+    ExTimeState value;
+    NeverDestroyed() : value() {}
+    ~NeverDestroyed() {}
+};
+NeverDestroyed stateStorage;
+ExTimeState& state = stateStorage.value;
 
 ClockSource& Clock() {
     ClockSource* source = state.m_source.load(std::memory_order_acquire);
     return source != nullptr ? *source : SystemClockSource();
 }
 
+// Counter ticks in ms. The factor is kept, as the frequency is constant, so
+// that reading the clock costs one multiplication rather than two divisions.
 double CounterMs(const ClockSource& clock) {
-    const double frequency = static_cast<double>(clock.CounterFrequency());
-    if (!(frequency > 0.0)) return 0.0;
-    return static_cast<double>(clock.CounterNow()) / (frequency / 1000.0);
+    double msPerTick = state.m_msPerTick.load(std::memory_order_relaxed);
+    if (msPerTick == 0.0) {
+        const double frequency = static_cast<double>(clock.CounterFrequency());
+        if (!(frequency > 0.0)) return 0.0;
+        msPerTick = 1000.0 / frequency;
+        state.m_msPerTick.store(msPerTick, std::memory_order_relaxed);
+    }
+    return static_cast<double>(clock.CounterNow()) * msPerTick;
 }
 
 // The integer of a floating value, saturated, 0 for NaN: never undefined.
@@ -109,8 +126,8 @@ double CExTime::GetExTime(double counterMs) {
     ClockSource& clock = Clock();
     std::lock_guard<std::mutex> lock(state.m_lock);
     if (!state.m_bTimeSyncDone) {
-        // The pause lets the clocks settle after start-up before the base
-        // is read.
+        // The base is taken after a 5 ms pause, as the suite's clock has
+        // always done.
         clock.Pause(5);
         const double systemMs = FileTimeToVexTime(clock.SystemFileTime());
         const double counterNow = CounterMs(clock);
@@ -191,6 +208,7 @@ void CExTime::StoreFittedCoeffs(double a0, double a1, double p0) {
 void CExTime::ResetState(ClockSource* source) {
     std::lock_guard<std::mutex> lock(state.m_lock);
     state.m_source.store(source, std::memory_order_release);
+    state.m_msPerTick.store(0.0, std::memory_order_relaxed);
     state.m_time1970Base = 0.0;
     state.m_prevVexTime = 0.0;
     state.m_a0 = 0.0;

@@ -19,7 +19,7 @@ namespace vex {
 
 class ClockSource;
 namespace detail {
-VEXBASE_API void ResetTimeState(ClockSource* source);
+class TimeSyncDriver;
 }  // namespace detail
 
 // The suite's clock and the conversions of its time values.
@@ -162,7 +162,7 @@ class VEXBASE_API CExTime {
 
   private:
     friend class CExTimeSync;
-    friend VEXBASE_API void detail::ResetTimeState(ClockSource* source);
+    friend class detail::TimeSyncDriver;
 
     // Stores coefficients fitted to the system clock, unless an external
     // source has set its own in the meantime.

@@ -1,5 +1,6 @@
 #include <base/time/ExTimeSync.h>
 
+#include <base/platform/ProcessExit.h>
 #include <base/time/ExTime.h>
 
 #include <algorithm>
@@ -26,16 +27,37 @@ struct FitState {
     int count = 0;
 };
 
-constinit FitState fit;
+// Never destroyed: on platforms where the worker is not joined at exit it
+// may still run a pass while static objects are torn down.
+union FitStorage {
+    FitState value;
+    FitStorage() : value() {}
+    ~FitStorage() {}
+};
+FitStorage fitStorage;
+FitState& fit = fitStorage.value;
 
-// The singleton once constructed, for ResetTimeState.
+// The singleton once constructed, for TimeSyncDriver::ResetTimeState.
 constinit std::atomic<CExTimeSync*> instance{nullptr};
 
 }  // namespace
 
 CExTimeSync* CExTimeSync::GetExTimeSync() {
-    static CExTimeSync singleton(true);
-    return &singleton;
+    // The singleton is never destroyed, so the worker never finds its
+    // members gone; the exit guard, made after it and so destroyed before
+    // any static object that it uses, ends the worker.
+    union Storage {
+        CExTimeSync value;
+        Storage() : value(true) {}
+        ~Storage() {}
+    };
+    struct ExitGuard {
+        CExTimeSync& sync;
+        ~ExitGuard() { sync.StopAtExit(); }
+    };
+    static Storage singleton;
+    static ExitGuard exitGuard{singleton.value};
+    return &singleton.value;
 }
 
 CExTimeSync::CExTimeSync(bool startWorker) {
@@ -81,6 +103,16 @@ void CExTimeSync::StopAndJoin() {
     if (m_thread.joinable()) m_thread.join();
     m_thread = std::thread();
     m_stop.store(0);
+}
+
+void CExTimeSync::StopAtExit() {
+    if (platform::kStaticDestructorsMayJoinThreads) {
+        StopAndJoin();
+    } else {
+        // The worker may already be gone, perhaps inside a lock: only the
+        // flag is set, and the worker ends at its next wake if it still runs.
+        m_stop.store(1);
+    }
 }
 
 void CExTimeSync::ThreadProc(CExTimeSync* self) {
@@ -159,7 +191,7 @@ bool CExTimeSync::ComputeCoefficients(double e, double s, double& a0, double& a1
 
 namespace detail {
 
-void ResetTimeState(ClockSource* source) {
+void TimeSyncDriver::ResetTimeState(ClockSource* source) {
     if (CExTimeSync* sync = instance.load()) sync->StopAndJoin();
     {
         std::lock_guard<std::mutex> guard(fit.lock);

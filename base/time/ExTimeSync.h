@@ -5,7 +5,9 @@
 // seconds), its slope held to 0.9 ... 1.1. Synchronisation ends for the
 // rest of the process when the two clocks differ by more than one second
 // (the system clock was stepped) or when an external UTC source calls
-// CExTime::SetUtcCoeffs. The thread is stopped and joined at process exit.
+// CExTime::SetUtcCoeffs. The thread is stopped and joined at process exit
+// (on Windows, where a DLL may not wait for a thread then, it is stopped and
+// left to the system, which has ended it already).
 #pragma once
 
 #include <base/Export.h>
@@ -22,7 +24,6 @@ class CExTimeSync;
 
 namespace detail {
 class TimeSyncDriver;
-VEXBASE_API void ResetTimeState(ClockSource* source);
 }  // namespace detail
 
 // The clock-synchronisation singleton; CExTime's constructor creates it.
@@ -47,7 +48,6 @@ class VEXBASE_API CExTimeSync {
 
   private:
     friend class detail::TimeSyncDriver;
-    friend VEXBASE_API void detail::ResetTimeState(ClockSource* source);
 
     explicit CExTimeSync(bool startWorker);
     ~CExTimeSync();
@@ -63,6 +63,8 @@ class VEXBASE_API CExTimeSync {
     bool ComputeCoefficients(double e, double s, double& a0, double& a1, double& p0);
     // Ends and joins the worker and allows a new one to start.
     void StopAndJoin();
+    // Ends the worker as far as the platform allows at process exit.
+    void StopAtExit();
 
     std::atomic<unsigned char> m_stop{0};
     std::thread m_thread;
@@ -74,20 +76,21 @@ class VEXBASE_API CExTimeSync {
 
 namespace detail {
 
-// For tests and simulations, never while other threads use the clock:
-// stops and joins the synchronisation worker, installs source (nullptr: the
-// operating system's clocks) and returns CExTime and the fitting to the
-// state of a process that has not read the time yet.
-VEXBASE_API void ResetTimeState(ClockSource* source);
-
-// Runs the worker's passes by hand, without the thread and its 100 ms
-// waits, on the process-wide fitting state (reset it first).
+// Drives the clock synchronisation by hand, for tests and simulations:
+// puts another clock source in place and runs the worker's passes without
+// the thread and its 100 ms waits, on the process-wide fitting state.
 //
-//   vex::detail::ResetTimeState(&simulatedClock);
+//   vex::detail::TimeSyncDriver::ResetTimeState(&simulatedClock);
 //   vex::detail::TimeSyncDriver driver;
 //   while (...) { simulatedClock.Advance(100); driver.RunPass(); }
 class VEXBASE_API TimeSyncDriver {
   public:
+    // Never while other threads use the clock: stops and joins the
+    // synchronisation worker, installs source (nullptr: the operating
+    // system's clocks) and returns CExTime and the fitting to the state of
+    // a process that has not read the time yet.
+    static void ResetTimeState(ClockSource* source);
+
     TimeSyncDriver();
     ~TimeSyncDriver();
     TimeSyncDriver(const TimeSyncDriver&) = delete;

@@ -113,7 +113,7 @@ TEST(CExTimeSyncThread, ResettingStopsAndJoinsARunningWorkerAtOnce) {
         sync = CExTimeSync::GetExTimeSync();
         ASSERT_TRUE(sync->IsSyncRunning());
         const auto start = std::chrono::steady_clock::now();
-        detail::ResetTimeState(nullptr);
+        detail::TimeSyncDriver::ResetTimeState(nullptr);
         // The worker's 100 ms wait is cut short.
         EXPECT_LT(std::chrono::steady_clock::now() - start, 1s);
         EXPECT_FALSE(sync->IsSyncRunning());
@@ -121,7 +121,7 @@ TEST(CExTimeSyncThread, ResettingStopsAndJoinsARunningWorkerAtOnce) {
     // After a reset the next CExTime starts a worker again.
     CExTime clock;
     EXPECT_TRUE(sync->IsSyncRunning());
-    detail::ResetTimeState(nullptr);
+    detail::TimeSyncDriver::ResetTimeState(nullptr);
 }
 
 // The last thing the program does: start the worker and return from main
@@ -130,7 +130,7 @@ TEST(CExTimeSyncThread, ResettingStopsAndJoinsARunningWorkerAtOnce) {
 class ExitWithTheWorkerRunning : public ::testing::Environment {
   public:
     void TearDown() override {
-        detail::ResetTimeState(nullptr);
+        detail::TimeSyncDriver::ResetTimeState(nullptr);
         CExTime clock;
         WaitFor(Fitted);
         EXPECT_TRUE(CExTimeSync::GetExTimeSync()->IsSyncRunning());

@@ -70,8 +70,8 @@ class SimulatedClock final : public ClockSource {
 // and gives the system's clocks back, again with fresh state, at the end.
 class ClockGuard {
   public:
-    explicit ClockGuard(ClockSource* source) { detail::ResetTimeState(source); }
-    ~ClockGuard() { detail::ResetTimeState(nullptr); }
+    explicit ClockGuard(ClockSource* source) { detail::TimeSyncDriver::ResetTimeState(source); }
+    ~ClockGuard() { detail::TimeSyncDriver::ResetTimeState(nullptr); }
     ClockGuard(const ClockGuard&) = delete;
     ClockGuard& operator=(const ClockGuard&) = delete;
 };

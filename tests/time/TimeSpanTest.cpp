@@ -52,17 +52,11 @@ TEST(TimeSpan, AxisStepsAreRoundClockIntervals) {
         EXPECT_EQ(TimeInterval(c[0]), c[1]) << c[0];
 }
 
-TEST(TimePoint, CarriesAPointAndATime) {
+TEST(TimePoint, EqualityCountsTheTime) {
     TimePoint fix(Point(1.0, 2.0, 3.0), 1.5e12);
-    EXPECT_EQ(fix.x, 1.0);
-    EXPECT_EQ(fix.z, 3.0);
-    EXPECT_EQ(fix.GetTime(), 1.5e12);
-    TimePoint copy(fix);
-    EXPECT_EQ(copy, TimePoint(1.0, 2.0, 3.0, 1.5e12));
-    copy.SetTime(1.6e12);
-    EXPECT_FALSE(copy == fix);  // the time counts
-    EXPECT_EQ(TimePoint().GetTime(), 0.0);
-    EXPECT_EQ(copy.Dist2D(Point(4.0, 6.0)), 5.0);
+    EXPECT_EQ(fix, TimePoint(1.0, 2.0, 3.0, 1.5e12));
+    fix.SetTime(1.6e12);
+    EXPECT_FALSE(fix == TimePoint(1.0, 2.0, 3.0, 1.5e12));
 }
 
 }  // namespace
