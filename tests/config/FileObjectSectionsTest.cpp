@@ -175,10 +175,7 @@ class SectionFile : public FileObject {
   public:
     using FileObject::CreateSection;
     using FileObject::SelectSection;
-    using FileObject::SetErrorStatus;
-    using FileObject::SetReadStatus;
     using FileObject::SetSection;
-    bool Report() const { return ReportError(u"m") || ReportError(u"m", u"d"); }
 };
 
 TEST(FileObject, DerivedClassesWorkOnSectionsThroughHandles) {
@@ -204,12 +201,6 @@ TEST(FileObject, DerivedClassesWorkOnSectionsThroughHandles) {
     EXPECT_TRUE(file.CreateSection(created, u"B", true));
     EXPECT_EQ(created.GetCount(), 0);
     EXPECT_EQ(Describe(file), "[A]a=1;b=2;[B][C]");
-
-    file.SetErrorStatus(6);
-    EXPECT_EQ(file.GetErrorStatus(), 6);
-    file.SetReadStatus(false);
-    EXPECT_FALSE(file.FileInitialised());
-    EXPECT_FALSE(file.Report());
 }
 
 TEST(FileObject, ComparesContentsNotOrderAndCopiesAreIndependent) {
