@@ -43,6 +43,8 @@ class VEXBASE_API CExTime {
     // The first call in the process takes the base from the system clock
     // (after a 5 ms pause). A 32-bit counter that wrapped since the previous
     // reading is unwrapped (jumps of more than 2^31 ms are taken as a wrap).
+    // Coefficients with a0 0 or NaN mean "not synchronised" and are not
+    // applied.
     static double GetExTime(double counterMs);
     // Synchronised time now.
     static double GetCurTime();

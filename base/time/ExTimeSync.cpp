@@ -44,8 +44,8 @@ constinit std::atomic<CExTimeSync*> instance{nullptr};
 
 CExTimeSync* CExTimeSync::GetExTimeSync() {
     // The singleton is never destroyed, so the worker never finds its
-    // members gone; the exit guard, made after it and so destroyed before
-    // any static object that it uses, ends the worker.
+    // members gone. The exit guard ends the worker; made after the static
+    // objects the worker uses, it is destroyed before them.
     union Storage {
         CExTimeSync value;
         Storage() : value(true) {}
