@@ -4,7 +4,10 @@
 
 namespace vextool {
 
-void Print(std::string_view utf8) { std::fwrite(utf8.data(), 1, utf8.size(), stdout); }
+void Print(std::string_view utf8) {
+    // An empty view may carry a null pointer, which fwrite must not be given.
+    if (!utf8.empty()) std::fwrite(utf8.data(), 1, utf8.size(), stdout);
+}
 
 void PrintLine(std::string_view utf8) {
     Print(utf8);
