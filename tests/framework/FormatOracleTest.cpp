@@ -196,7 +196,8 @@ FormatCase MakeCase(Generator& g, const std::string& sizePrefix, char conversion
         directive += ".*";
         k.stars[k.starCount++] = g.Int(-3, numeric ? 40 : 12);
     } else if (g.Chance(0.6)) {
-        directive += g.Chance(0.1) ? "." : "." + std::to_string(g.Int(0, numeric ? 40 : 12));
+        directive += '.';
+        if (!g.Chance(0.1)) directive += std::to_string(g.Int(0, numeric ? 40 : 12));
     }
     k.format =
         g.Pick({"", "<", "x="}) + directive + sizePrefix + conversion + g.Pick({"", ">", "%%"});
@@ -510,7 +511,10 @@ std::string ScanInput(Generator& g) {
             s += g.Pick({"", "", "+", "-"});
             s += g.Pick({"", "", "0", "0x", "0X", "00"});
             s += g.Word(22, g.Pick({"0123456789", "0123456789abcdefABCDEF", "01234567", "019"}));
-            if (g.Chance(0.3)) s += "." + g.Word(6, "0123456789");
+            if (g.Chance(0.3)) {
+                s += '.';
+                s += g.Word(6, "0123456789");
+            }
             if (g.Chance(0.3))
                 s += g.Pick(
                     {"e", "E", "e+", "e-", "e5", "E-12", "e+308", "e400", "e-400", "p3", "p-2"});
