@@ -17,16 +17,22 @@ std::vector<std::string> CommandLineUtf8(int argc, char** argv) {
     LPWSTR* wide = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> args;
     if (wide == nullptr) {
-        for (int i = 0; i < argc; ++i) args.emplace_back(Utf16ToUtf8(AnsiToUtf16(argv[i] ? argv[i] : "")));
+        for (int i = 0; i < argc; ++i)
+            args.emplace_back(Utf16ToUtf8(AnsiToUtf16(argv[i] ? argv[i] : "")));
         return args;
     }
-    for (int i = 0; i < count; ++i) args.push_back(Utf16ToUtf8(WideToUtf16(wide[i])));
+    for (int i = 0; i < count; ++i)
+        args.push_back(Utf16ToUtf8(WideToUtf16(wide[i])));
     LocalFree(wide);
     return args;
 }
 
-void UseUtf8Console() { SetConsoleOutputCP(CP_UTF8); }
+void UseUtf8Console() {
+    SetConsoleOutputCP(CP_UTF8);
+}
 
-void SetBinaryStdin() { _setmode(_fileno(stdin), _O_BINARY); }
+void SetBinaryStdin() {
+    _setmode(_fileno(stdin), _O_BINARY);
+}
 
 }  // namespace vex::platform

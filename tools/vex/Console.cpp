@@ -14,7 +14,9 @@ void PrintLine(std::string_view utf8) {
     std::fputc('\n', stdout);
 }
 
-void PrintLine(const vex::CString& text) { PrintLine(text.ToUtf8()); }
+void PrintLine(const vex::CString& text) {
+    PrintLine(text.ToUtf8());
+}
 
 int Fail(int code, std::string_view file, std::string_view reason) {
     std::fflush(stdout);

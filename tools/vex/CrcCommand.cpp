@@ -41,10 +41,12 @@ bool ReadAll(const std::string& path, std::vector<unsigned char>& content) {
         return !std::ferror(stdin);
     }
     vex::FileStream file;
-    if (!file.Open(vex::CString::FromUtf8(path), vex::CFile::modeRead | vex::CFile::shareDenyWrite)) {
+    if (!file.Open(vex::CString::FromUtf8(path),
+                   vex::CFile::modeRead | vex::CFile::shareDenyWrite)) {
         return false;
     }
-    for (std::size_t n; (n = file.Read(block, sizeof block)) > 0;) content.insert(content.end(), block, block + n);
+    for (std::size_t n; (n = file.Read(block, sizeof block)) > 0;)
+        content.insert(content.end(), block, block + n);
     return !file.GetError().IsError();
 }
 
@@ -81,7 +83,8 @@ int RunCrc(const CrcOptions& options) {
 
 void AddCrcCommand(CLI::App& app, Action& run) {
     auto options = std::make_shared<CrcOptions>();
-    CLI::App* cmd = app.add_subcommand("crc", "Checksums of files: CRC-32, CRC-16 (0x8408) and the byte-wise OR");
+    CLI::App* cmd = app.add_subcommand(
+        "crc", "Checksums of files: CRC-32, CRC-16 (0x8408) and the byte-wise OR");
     cmd->add_flag("--32", options->crc32, "CRC-32 (the usual one, as zlib computes it)");
     cmd->add_flag("--16", options->crc16, "CRC-16 with polynomial 0x8408, start 0");
     cmd->add_flag("--or", options->byteOr, "bitwise OR of all bytes");

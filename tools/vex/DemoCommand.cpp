@@ -28,7 +28,8 @@ int CountItems(const vex::FileObject& file) {
     int items = 0;
     vex::FobjSection handle;
     CString name;
-    for (bool more = file.GetFirstSectionEntry(handle, name); more; more = file.GetNextSectionEntry(handle, name)) {
+    for (bool more = file.GetFirstSectionEntry(handle, name); more;
+         more = file.GetNextSectionEntry(handle, name)) {
         items += file.GetNumItems(name);
     }
     return items;
@@ -41,19 +42,24 @@ std::string PathText(const fs::path& p) {
 
 int RunDemo(bool keep) {
     std::error_code ec;
-    const auto stamp = static_cast<unsigned long long>(fs::file_time_type::clock::now().time_since_epoch().count());
+    const auto stamp = static_cast<unsigned long long>(
+        fs::file_time_type::clock::now().time_since_epoch().count());
     const fs::path folder = fs::temp_directory_path(ec) / ("vex-demo-" + std::to_string(stamp));
-    if (ec || !fs::create_directories(folder, ec)) return Fail(kInputOutput, PathText(folder), "cannot create the demo folder");
+    if (ec || !fs::create_directories(folder, ec))
+        return Fail(kInputOutput, PathText(folder), "cannot create the demo folder");
     for (std::size_t i = 0; i < kEmbeddedSampleCount; ++i) {
         std::ofstream out(folder / kEmbeddedSamples[i].name, std::ios::binary);
         out.write(reinterpret_cast<const char*>(kEmbeddedSamples[i].data),
                   static_cast<std::streamsize>(kEmbeddedSamples[i].size));
-        if (!out) return Fail(kInputOutput, PathText(folder / kEmbeddedSamples[i].name), "cannot be written");
+        if (!out)
+            return Fail(kInputOutput, PathText(folder / kEmbeddedSamples[i].name),
+                        "cannot be written");
     }
     const std::string v1 = PathText(folder / "vessel.ini");
     const std::string v2 = PathText(folder / "vessel-v2.ini");
     const std::string patched = PathText(folder / "vessel-patched.ini");
-    PrintLine("VexBase " + std::string(vex::VersionString()) + " demo, sample files in " + PathText(folder));
+    PrintLine("VexBase " + std::string(vex::VersionString()) + " demo, sample files in " +
+              PathText(folder));
 
     vex::FileObject first;
     vex::FileObject second;
@@ -89,7 +95,8 @@ int RunDemo(bool keep) {
     if (const int saved = SaveSettings(reread, patched); saved != kSuccess) return saved;
     vex::FileObject sealed;
     if (auto failed = LoadSettings(patched, sealed)) return *failed;
-    PrintLine(std::string("sealed file verifies: ") + (vex::VerifyChecksumSection(sealed) ? "OK" : "FAILED"));
+    PrintLine(std::string("sealed file verifies: ") +
+              (vex::VerifyChecksumSection(sealed) ? "OK" : "FAILED"));
     sealed.SetItem(u"Offsets", u"GPS1.X", CString(u"9.999"), false);
     PrintLine(std::string("after changing Offsets/GPS1.X without sealing: ") +
               (vex::VerifyChecksumSection(sealed) ? "OK" : "FAILED, as it should"));

@@ -40,17 +40,26 @@ int RunGeo(const GeoOptions& o) {
 void AddGeoCommand(CLI::App& app, Action& run) {
     auto o = std::make_shared<GeoOptions>();
     CLI::App* cmd = app.add_subcommand("geo", "Format a latitude and longitude (decimal degrees)");
-    cmd->add_option("lat", o->latitude, "latitude, degrees, north positive")->required()->check(CLI::Range(-90.0, 90.0));
-    cmd->add_option("lon", o->longitude, "longitude, degrees, east positive")->required()->check(CLI::Range(-180.0, 180.0));
+    cmd->add_option("lat", o->latitude, "latitude, degrees, north positive")
+        ->required()
+        ->check(CLI::Range(-90.0, 90.0));
+    cmd->add_option("lon", o->longitude, "longitude, degrees, east positive")
+        ->required()
+        ->check(CLI::Range(-180.0, 180.0));
     cmd->add_option("--style", o->style, "d (degrees), dm (degrees and minutes) or dms")
         ->check(CLI::IsMember({"d", "dm", "dms"}))
         ->capture_default_str();
-    cmd->add_option("--decimals", o->decimals, "decimals of the last field")->check(CLI::Range(0, 9))->capture_default_str();
-    cmd->add_flag("--no-signs", o->noSigns, "spaces instead of the degree, minute and second signs");
+    cmd->add_option("--decimals", o->decimals, "decimals of the last field")
+        ->check(CLI::Range(0, 9))
+        ->capture_default_str();
+    cmd->add_flag("--no-signs", o->noSigns,
+                  "spaces instead of the degree, minute and second signs");
     cmd->add_option("--hemisphere", o->hemisphere, "the letter N/S/E/W before or after the number")
         ->check(CLI::IsMember({"before", "after"}))
         ->capture_default_str();
-    cmd->footer("Example: vex geo 51.9225 4.47917 --style dms --decimals 2\n  051\u00B055'21.00\"N  004\u00B028'45.01\"E");
+    cmd->footer(
+        "Example: vex geo 51.9225 4.47917 --style dms --decimals 2\n  051\u00B055'21.00\"N  "
+        "004\u00B028'45.01\"E");
     cmd->callback([o, &run] { run = [o] { return RunGeo(*o); }; });
 }
 

@@ -27,7 +27,9 @@ struct IniOptions {
 
 using vex::CString;
 
-CString Wide(const std::string& utf8) { return CString::FromUtf8(utf8); }
+CString Wide(const std::string& utf8) {
+    return CString::FromUtf8(utf8);
+}
 
 // Calls visit(key, value) for every item of section in file order.
 template <class Visit>
@@ -47,10 +49,12 @@ std::vector<CString> SectionNames(const vex::FileObject& file) {
     std::vector<CString> names;
     vex::FobjSection handle;
     CString name;
-    for (bool more = file.GetFirstSectionEntry(handle, name); more; more = file.GetNextSectionEntry(handle, name)) {
+    for (bool more = file.GetFirstSectionEntry(handle, name); more;
+         more = file.GetNextSectionEntry(handle, name)) {
         names.push_back(name);
     }
-    if (file.HasSection(vex::FileObject::CHECKSUM_SECTION)) names.push_back(vex::FileObject::CHECKSUM_SECTION);
+    if (file.HasSection(vex::FileObject::CHECKSUM_SECTION))
+        names.push_back(vex::FileObject::CHECKSUM_SECTION);
     return names;
 }
 
@@ -59,7 +63,8 @@ int Show(const IniOptions& o) {
     if (auto failed = LoadSettings(o.file, file)) return *failed;
     const std::vector<CString> sections = SectionNames(file);
     if (!o.json) {
-        for (const CString& line : file.GetExtraInfo()) PrintLine(line);
+        for (const CString& line : file.GetExtraInfo())
+            PrintLine(line);
         for (const CString& section : sections) {
             PrintLine("[" + section.ToUtf8() + "]");
             ForEachItem(file, section, [](const CString& k, const CString& v) {
@@ -71,7 +76,8 @@ int Show(const IniOptions& o) {
     }
     std::string out = "{\"file\": " + JsonString(o.file) + ", \"sections\": [";
     for (std::size_t s = 0; s < sections.size(); ++s) {
-        out += (s ? ", " : "") + std::string("{\"name\": ") + JsonString(sections[s].ToUtf8()) + ", \"items\": [";
+        out += (s ? ", " : "") + std::string("{\"name\": ") + JsonString(sections[s].ToUtf8()) +
+               ", \"items\": [";
         bool first = true;
         ForEachItem(file, sections[s], [&](const CString& k, const CString& v) {
             out += (first ? "" : ", ") + std::string("{\"key\": ") + JsonString(k.ToUtf8()) +
@@ -84,7 +90,9 @@ int Show(const IniOptions& o) {
     return kSuccess;
 }
 
-int MissingSection(const IniOptions& o) { return Fail(kInputOutput, o.file, "no section [" + o.section + "]"); }
+int MissingSection(const IniOptions& o) {
+    return Fail(kInputOutput, o.file, "no section [" + o.section + "]");
+}
 
 int MissingKey(const IniOptions& o) {
     return Fail(kInputOutput, o.file, "no key \"" + o.key + "\" in section [" + o.section + "]");
@@ -104,7 +112,8 @@ int Set(const IniOptions& o) {
     vex::FileObject file;
     if (auto failed = LoadSettings(o.file, file)) return *failed;
     if (!file.HasSection(Wide(o.section)) && !o.createSection) {
-        return Fail(kInputOutput, o.file, "no section [" + o.section + "] (use --create-section to add it)");
+        return Fail(kInputOutput, o.file,
+                    "no section [" + o.section + "] (use --create-section to add it)");
     }
     if (o.key.empty() || o.key.find('=') != std::string::npos || o.key.find_first_of("[;") == 0) {
         return Fail(kUsage, "a key must not be empty, hold \"=\" or begin with \"[\" or \";\"");
@@ -146,7 +155,8 @@ int Apply(const IniOptions& o) {
     vex::FileObject difference;
     if (auto failed = LoadSettings(o.file, base)) return *failed;
     if (auto failed = LoadSettings(o.other, difference)) return *failed;
-    if (!base.ApplyDifference(difference)) return Fail(kInputOutput, o.other, "is not a difference description");
+    if (!base.ApplyDifference(difference))
+        return Fail(kInputOutput, o.other, "is not a difference description");
     return SaveSettings(base, o.output.empty() ? o.file : o.output);
 }
 
@@ -164,7 +174,8 @@ int Verify(const IniOptions& o) {
         return Fail(kDiffers, o.file, "has no checksum section (not sealed)");
     }
     if (!vex::VerifyChecksumSection(file)) {
-        return Fail(kDiffers, o.file, "FAILED verification: the content does not match its checksum section");
+        return Fail(kDiffers, o.file,
+                    "FAILED verification: the content does not match its checksum section");
     }
     PrintLine(o.file + ": OK");
     return kSuccess;
@@ -183,15 +194,18 @@ CLI::App* Sub(CLI::App& ini, const char* name, const char* help, const char* exa
 
 void AddIniCommands(CLI::App& app, Action& run) {
     auto o = std::make_shared<IniOptions>();
-    CLI::App* ini = app.add_subcommand("ini", "Settings files: show, get, set, delete, diff, apply, seal, verify");
+    CLI::App* ini = app.add_subcommand(
+        "ini", "Settings files: show, get, set, delete, diff, apply, seal, verify");
     ini->require_subcommand(1);
 
-    CLI::App* show = Sub(*ini, "show", "Print the sections and items of a settings file in file order",
-                         "vex ini show vessel.ini --json", o, Show, run);
+    CLI::App* show =
+        Sub(*ini, "show", "Print the sections and items of a settings file in file order",
+            "vex ini show vessel.ini --json", o, Show, run);
     show->add_option("file", o->file, "settings file")->required();
     show->add_flag("--json", o->json, "print JSON for scripts");
 
-    CLI::App* get = Sub(*ini, "get", "Print one item's value", "vex ini get vessel.ini Offsets GPS1.X", o, Get, run);
+    CLI::App* get = Sub(*ini, "get", "Print one item's value",
+                        "vex ini get vessel.ini Offsets GPS1.X", o, Get, run);
     get->add_option("file", o->file, "settings file")->required();
     get->add_option("section", o->section, "section name")->required();
     get->add_option("key", o->key, "key")->required();
@@ -214,19 +228,23 @@ void AddIniCommands(CLI::App& app, Action& run) {
                          "vex ini diff vessel.ini vessel-v2.ini -o changes.ini", o, Diff, run);
     diff->add_option("a", o->file, "the base file")->required();
     diff->add_option("b", o->other, "the changed file")->required();
-    diff->add_option("-o,--output", o->output, "write the description to this file instead of standard output");
+    diff->add_option("-o,--output", o->output,
+                     "write the description to this file instead of standard output");
 
     CLI::App* apply = Sub(*ini, "apply", "Apply a difference description to a file",
                           "vex ini apply vessel.ini changes.ini -o vessel-new.ini", o, Apply, run);
     apply->add_option("base", o->file, "the file to change")->required();
-    apply->add_option("diff", o->other, "the difference description (from vex ini diff)")->required();
+    apply->add_option("diff", o->other, "the difference description (from vex ini diff)")
+        ->required();
     apply->add_option("-o,--output", o->output, "write the result here instead of changing BASE");
 
-    CLI::App* seal = Sub(*ini, "seal", "Write the checksum section of a file", "vex ini seal vessel.ini", o, Seal, run);
+    CLI::App* seal = Sub(*ini, "seal", "Write the checksum section of a file",
+                         "vex ini seal vessel.ini", o, Seal, run);
     seal->add_option("file", o->file, "settings file")->required();
 
-    CLI::App* verify = Sub(*ini, "verify", "Check a file against its checksum section (exit 1 when it fails)",
-                           "vex ini verify vessel.ini", o, Verify, run);
+    CLI::App* verify =
+        Sub(*ini, "verify", "Check a file against its checksum section (exit 1 when it fails)",
+            "vex ini verify vessel.ini", o, Verify, run);
     verify->add_option("file", o->file, "settings file")->required();
 }
 

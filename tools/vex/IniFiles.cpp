@@ -29,9 +29,11 @@ std::optional<int> LoadSettings(const std::string& path, vex::FileObject& file) 
     std::error_code ec;
     const std::filesystem::path fsPath(std::u8string(path.begin(), path.end()));
     if (!std::filesystem::exists(fsPath, ec)) return Fail(kInputOutput, path, "no such file");
-    if (std::filesystem::is_directory(fsPath, ec)) return Fail(kInputOutput, path, "is a folder, not a settings file");
+    if (std::filesystem::is_directory(fsPath, ec))
+        return Fail(kInputOutput, path, "is a folder, not a settings file");
     const vex::CString widePath = vex::CString::FromUtf8(path);
-    if (LooksBinary(widePath)) return Fail(kInputOutput, path, "holds binary data, not a settings file");
+    if (LooksBinary(widePath))
+        return Fail(kInputOutput, path, "holds binary data, not a settings file");
     if (!file.FileOpen(widePath, vex::CFile::modeRead | vex::CFile::shareDenyWrite)) {
         if (file.GetErrorStatus() == 2) {
             return Fail(kInputOutput, path, "malformed: no [section] header, not a settings file");
@@ -42,8 +44,10 @@ std::optional<int> LoadSettings(const std::string& path, vex::FileObject& file) 
 }
 
 int SaveSettings(const vex::FileObject& file, const std::string& path) {
-    if (!file.FileSave(vex::CString::FromUtf8(path), vex::CFile::modeCreate | vex::CFile::modeWrite)) {
-        return Fail(kInputOutput, path, "cannot be written (the previous file, if any, is unchanged)");
+    if (!file.FileSave(vex::CString::FromUtf8(path),
+                       vex::CFile::modeCreate | vex::CFile::modeWrite)) {
+        return Fail(kInputOutput, path,
+                    "cannot be written (the previous file, if any, is unchanged)");
     }
     return kSuccess;
 }

@@ -22,8 +22,10 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     app.set_version_flag("--version", std::string("vex ") + VEX_TOOL_VERSION + " (vexbase " +
                                           vex::VersionString() + ")");
-    app.footer("Exit status: 0 success, 1 files differ or verification failed, 2 usage, 3 input/output error.\n"
-               "Run 'vex COMMAND --help' for a command's options and an example.");
+    app.footer(
+        "Exit status: 0 success, 1 files differ or verification failed, 2 usage, 3 input/output "
+        "error.\n"
+        "Run 'vex COMMAND --help' for a command's options and an example.");
 
     vextool::Action run;
     vextool::AddIniCommands(app, run);
