@@ -93,22 +93,6 @@ std::string NarrowNativePath(std::u16string_view path) {
     return native;
 }
 
-NativeFile::~NativeFile() {
-    Close();
-}
-
-NativeFile::NativeFile(NativeFile&& other) noexcept
-    : handle_(std::exchange(other.handle_, kClosed)), error_(other.error_) {}
-
-NativeFile& NativeFile::operator=(NativeFile&& other) noexcept {
-    if (this != &other) {
-        Close();
-        handle_ = std::exchange(other.handle_, kClosed);
-        error_ = other.error_;
-    }
-    return *this;
-}
-
 bool NativeFile::Fail() const {
     error_ = ErrorOf(errno);
     if (error_.cause == FileErrorCause::none) error_.cause = FileErrorCause::generic;

@@ -96,22 +96,6 @@ std::string NarrowNativePath(std::u16string_view path) {
     return Utf16ToUtf8(path);
 }
 
-NativeFile::~NativeFile() {
-    Close();
-}
-
-NativeFile::NativeFile(NativeFile&& other) noexcept
-    : handle_(std::exchange(other.handle_, kClosed)), error_(other.error_) {}
-
-NativeFile& NativeFile::operator=(NativeFile&& other) noexcept {
-    if (this != &other) {
-        Close();
-        handle_ = std::exchange(other.handle_, kClosed);
-        error_ = other.error_;
-    }
-    return *this;
-}
-
 bool NativeFile::Fail() const {
     error_ = ErrorOf(::GetLastError());
     return false;

@@ -12,15 +12,7 @@ namespace {
 
 using test::Parse;
 
-class ChecksumSection : public ::testing::Test {
-  protected:
-    void SetUp() override { Reset(); }
-    void TearDown() override { Reset(); }
-    static void Reset() {
-        GlobalErrorList::Get().Clear();
-        GlobalErrorList::Get().SetContext(u"");
-    }
-};
+using ChecksumSection = test::WithCleanErrorList;
 
 FileObject Parsed(const char* text) {
     FileObject file;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <base/config/FileObject.h>
+#include <base/errors/GlobalErrorList.h>
 #include <base/framework/MemFile.h>
 
 #include <cstddef>
@@ -11,6 +12,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace vex::test {
 
@@ -56,5 +59,17 @@ inline std::string Extras(const FileObject& file) {
         text.append(i > 0 ? "|" : "").append(lines[i].ToUtf8());
     return text;
 }
+
+// A test that reads what was reported: the global error list starts and
+// ends empty, in the general context.
+class WithCleanErrorList : public ::testing::Test {
+  protected:
+    void SetUp() override { Reset(); }
+    void TearDown() override { Reset(); }
+    static void Reset() {
+        GlobalErrorList::Get().Clear();
+        GlobalErrorList::Get().SetContext(u"");
+    }
+};
 
 }  // namespace vex::test

@@ -22,14 +22,8 @@ using test::TempFolder;
 using test::WriteBytes;
 
 // The global error list starts empty in the general context.
-class FileObjectFiles : public ::testing::Test {
+class FileObjectFiles : public test::WithCleanErrorList {
   protected:
-    void SetUp() override { Reset(); }
-    void TearDown() override { Reset(); }
-    static void Reset() {
-        GlobalErrorList::Get().Clear();
-        GlobalErrorList::Get().SetContext(u"");
-    }
     // The one error in context, which must be a FileError.
     static const FileError* OnlyFileError(const CString& context) {
         GlobalErrorList& list = GlobalErrorList::Get();
