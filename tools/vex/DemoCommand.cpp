@@ -47,6 +47,15 @@ int RunDemo(bool keep) {
     const fs::path folder = fs::temp_directory_path(ec) / ("vex-demo-" + std::to_string(stamp));
     if (ec || !fs::create_directories(folder, ec))
         return Fail(kInputOutput, PathText(folder), "cannot create the demo folder");
+    // The folder goes on every way out, a failed step included, unless kept.
+    struct RemoveUnlessKept {
+        const fs::path& folder;
+        bool keep;
+        ~RemoveUnlessKept() {
+            std::error_code ignored;
+            if (!keep) fs::remove_all(folder, ignored);
+        }
+    } cleanup{folder, keep};
     for (std::size_t i = 0; i < kEmbeddedSampleCount; ++i) {
         std::ofstream out(folder / kEmbeddedSamples[i].name, std::ios::binary);
         out.write(reinterpret_cast<const char*>(kEmbeddedSamples[i].data),
@@ -59,7 +68,7 @@ int RunDemo(bool keep) {
     const std::string v2 = PathText(folder / "vessel-v2.ini");
     const std::string patched = PathText(folder / "vessel-patched.ini");
     PrintLine("VexBase " + std::string(vex::VersionString()) + " demo, sample files in " +
-              PathText(folder));
+              PathText(folder) + (keep ? "" : " (removed at the end; --keep keeps them)"));
 
     vex::FileObject first;
     vex::FileObject second;
@@ -116,7 +125,6 @@ int RunDemo(bool keep) {
     PrintLine("now " + vex::CExTime::TimeToStringISOFormat(now, true).ToUtf8() + " local, stamp " +
               std::string(vex::CExTime::GetTimeStampString(now).GetString()));
 
-    if (!keep) fs::remove_all(folder, ec);
     return kSuccess;
 }
 
