@@ -96,10 +96,11 @@ double ReadNumber(View text) {
     return Scan(text, u"%lf", &number) == 1 ? number : 0.0;
 }
 
-// value moved away from zero by amount (>= 0), on the side of value's sign;
-// a negative zero counts as negative, so that -0' 6" stays negative.
+// value moved away from zero by amount (>= 0): down when value is below
+// zero, else up. A negative zero is not below zero, so -0' 6" reads as +0.5,
+// as the suite's reader always has.
 double AddAwayFromZero(double value, double amount) {
-    return std::signbit(value) ? value - amount : value + amount;
+    return value < 0.0 ? value - amount : value + amount;
 }
 
 }  // namespace

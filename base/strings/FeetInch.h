@@ -43,9 +43,9 @@ VEXBASE_API CStringA FormatDoubleA(double value, std::string_view format, int mo
 // - From mode 2 on the text is feet and inches: 5' 6 1/2" is 5.541666...,
 //   -3' 6" is -3.5, 6 1/2" (no feet) is 0.541666..., 5 6 is 5.5, and a
 //   lone number is feet. Inches and their fraction take the sign of the
-//   feet; -0' 6" reads as -0.5 because the sign of the zero is kept, while
-//   -6" (no feet) reads as +0.5. Every part that is not a number reads as 0,
-//   so value is always set.
+//   feet when the feet are below zero: -0' 6" (which FormatDoubleW writes
+//   for -0.5) reads as +0.5, as does -6" (no feet). Every part that is not
+//   a number reads as 0, so value is always set.
 VEXBASE_API bool StringToValue(std::u16string_view text, double& value, int mode);
 
 }  // namespace vex

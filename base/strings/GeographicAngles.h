@@ -44,8 +44,8 @@ VEXBASE_API double DmsToDeg(double degrees, double minutes, double seconds);
 // part is rounded, carrying into minutes and degrees: 59.99999 in style
 // GEOGS_DM with 0 decimals is 060°00'. Without signs, a space stands for each
 // of the degree, minute (') and second (") signs.
-// Returns true when a hemisphere letter was added. An unknown style writes an
-// empty text; an unknown axis writes the number alone; both return false.
+// Returns true when a hemisphere letter was added. An unknown style leaves
+// text as it was; an unknown axis writes the number alone; both return false.
 VEXBASE_API bool FormatGeogs(double value, int style, int decimals, int axis, CString& text,
                              bool hemisphereAfter = true, bool signs = true);
 // As FormatGeogs, in narrow text of the active code page.

@@ -68,7 +68,10 @@ int GetSensiblePrecision(double value, double reference, double percent) {
 double Double125(double x) {
     if (x == 0.0) return 1.0;
     const double magnitude = std::fabs(x);
-    const double m = detail::PowerOfTen(detail::TruncToInt(std::floor(std::log10(magnitude))));
+    // Below 1e-323 the power of ten would underflow to 0; the smallest
+    // subnormals take that step instead, so the result stays positive.
+    const int exponent = std::max(detail::TruncToInt(std::floor(std::log10(magnitude))), -323);
+    const double m = detail::PowerOfTen(exponent);
     const double r = magnitude / m;
     if (r > 7.0) return 10.0 * m;
     if (r > 3.0) return 5.0 * m;

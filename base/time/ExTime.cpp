@@ -441,7 +441,7 @@ long CExTime::ConvertToJulian(int dayOfYear, int year) {
     // Days counted from 1 March of year 0 (day 1), as the astronomers'
     // algorithm counts them; the Julian day number adds the epoch offset.
     const std::int64_t marchDays =
-        detail::DaysFromCivil(year, 1, 1) + kMarchDaysOf1970 + 1 + (dayOfYear - 1);
+        detail::DaysFromCivil(year, 1, 1) + kMarchDaysOf1970 + std::int64_t{dayOfYear};
     return static_cast<long>(marchDays + kJulianEpochOffset);
 }
 

@@ -158,8 +158,9 @@ class VEXBASE_API CExTime {
     // TimeStampStringToTime.
     static CStringA GetTimeStampString();
     static CStringA GetTimeStampString(double t);
-    // The double of a "<0x%16I64X>" text; 0 when the text does not hold one
-    // hexadecimal field in that frame.
+    // The double of a "<0x%16I64X>" text, read as sscanf reads it: 0 unless
+    // one hexadecimal field after "<0x" converts (the closing ">" is not
+    // checked).
     static double TimeStampStringToTime(std::string_view text);
 
   private:

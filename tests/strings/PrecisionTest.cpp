@@ -53,6 +53,9 @@ TEST(Precision, Double125StepsThroughOneTwoFive) {
                                {-0.004, 0.005}, {259200.0, 200000.0}};
     for (const auto& c : cases)
         EXPECT_DOUBLE_EQ(Double125(c[0]), c[1]) << c[0];
+    // The smallest subnormals, whose power of ten underflows, still get a step.
+    EXPECT_GT(Double125(5e-324), 0.0);
+    EXPECT_GT(Double125(-1e-323), 0.0);
 }
 
 TEST(Precision, RoundTakesHalvesAwayFromZero) {

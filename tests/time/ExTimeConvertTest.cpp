@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <climits>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -145,6 +146,8 @@ TEST(CExTime, JulianDayNumbersCountDaysAcrossYears) {
     // Days past the year's end carry on into the next.
     EXPECT_EQ(CExTime::ConvertToJulian(367, 2024), 2460677);
     EXPECT_EQ(CExTime::ConvertToJulian(1, 2000001), 0);
+    // A day count far out of range is counted, not overflowed.
+    EXPECT_EQ(CExTime::ConvertToJulian(INT_MIN, 2000), 2451544L + INT_MIN);
     EXPECT_DOUBLE_EQ(CExTime::ConvertToJulianFrac(1.5, 2000), 2451545.5);
     EXPECT_DOUBLE_EQ(CExTime::ConvertToJulianFrac(326.25, 2026), 2461367.25);
     EXPECT_EQ(CExTime::ConvertToJulianFrac(kNaN, 2026), 0.0);
