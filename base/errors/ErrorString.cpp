@@ -10,34 +10,30 @@ thread_local CString t_lastError;
 
 }  // namespace
 
-ErrorString::ErrorString(bool ok) {
-    if (!ok) m_text = LoadStringResource(IDS_UNSPECIFIED_ERROR);
-    Remember();
-}
-
-ErrorString::ErrorString(int resourceId) : m_text(LoadStringResource(resourceId)) {
-    Remember();
+ErrorString::ErrorString(int resourceId) {
+    if (resourceId != 0) m_text = LoadStringResource(resourceId);
+    Changed();
 }
 
 ErrorString::ErrorString(const char16_t* text) : m_text(text) {
-    Remember();
+    Changed();
 }
 
 ErrorString::ErrorString(const CString& text) : m_text(text) {
-    Remember();
+    Changed();
 }
 
 ErrorString::ErrorString(const wchar_t* text) : m_text(text) {
-    Remember();
+    Changed();
 }
 
 ErrorString::ErrorString(const std::wstring& text) : m_text(text) {
-    Remember();
+    Changed();
 }
 
 ErrorString& ErrorString::operator<<(const CString& text) {
     m_text += text;
-    Remember();
+    Changed();
     return *this;
 }
 
@@ -57,14 +53,13 @@ ErrorString& ErrorString::operator<<(const ErrorString& other) {
     return *this << other.m_text;
 }
 
-void ErrorString::Remember() const {
+void ErrorString::Changed() {
+    m_wide = m_text.ToWide();
     if (!m_text.IsEmpty()) t_lastError = m_text;
 }
 
 ErrorString ErrorString::LastError() {
-    ErrorString copy;
-    copy.m_text = t_lastError;
-    return copy;
+    return ErrorString(t_lastError);
 }
 
 void ErrorString::ResetLastError() {

@@ -7,21 +7,28 @@
 
 #include <base/Export.h>
 #include <base/framework/CString.h>
+#include <base/framework/StringResources.h>
 
+#include <concepts>
 #include <string>
 
 namespace vex {
 
 class VEXBASE_API ErrorString {
   public:
-    // true: success (empty); false: "Unspecified Error".
-    ErrorString(bool ok = true);
-    // The text of the library's string resource resourceId.
-    explicit ErrorString(int resourceId);
+    // Success.
+    ErrorString() = default;
+    // true: success (empty); false: "Unspecified Error". Only a real bool
+    // gets here: a returned number or text must not turn into success.
+    template <class Bool>
+    requires std::same_as<Bool, bool> ErrorString(Bool ok)
+        : ErrorString(ok ? 0 : IDS_UNSPECIFIED_ERROR) {}
+    // The text of the library's string resource resourceId; 0 is success.
+    ErrorString(int resourceId);
     ErrorString(const char16_t* text);
     ErrorString(const CString& text);
-    explicit ErrorString(const wchar_t* text);
-    explicit ErrorString(const std::wstring& text);
+    ErrorString(const wchar_t* text);
+    ErrorString(const std::wstring& text);
 
     // True when there is no error.
     explicit operator bool() const { return m_text.IsEmpty(); }
@@ -36,7 +43,9 @@ class VEXBASE_API ErrorString {
     const char16_t* c_str() const { return m_text.GetString(); }
     const CString& Text() const { return m_text; }
     operator const CString&() const { return m_text; }
-    std::wstring ToWide() const { return m_text.ToWide(); }
+    // The text as wchar_t (UTF-32 where wchar_t is 32 bits wide).
+    operator const std::wstring&() const { return m_wide; }
+    const std::wstring& ToWide() const { return m_wide; }
 
     // The last failing result built on this thread (empty when none since
     // the last reset).
@@ -44,9 +53,11 @@ class VEXBASE_API ErrorString {
     static void ResetLastError();
 
   private:
-    void Remember() const;
+    // Keeps the wide copy in step and remembers a failure as the last error.
+    void Changed();
 
     CString m_text;
+    std::wstring m_wide;
 };
 
 }  // namespace vex

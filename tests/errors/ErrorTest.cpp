@@ -4,6 +4,7 @@
 
 #include <limits>
 #include <set>
+#include <string>
 
 namespace vex {
 namespace {
@@ -112,6 +113,27 @@ TEST(ErrorString, EmptyMeansSuccess) {
     EXPECT_EQ(ErrorString(12035).Text(), CString(u"Error opening \"%s\"."));
     ErrorString::ResetLastError();
     EXPECT_TRUE(ErrorString::LastError().Text().IsEmpty());
+}
+
+// A function returning ErrorString may return a resource number or a text;
+// neither may come back as success.
+ErrorString ReturnResource() {
+    return 12035;
+}
+ErrorString ReturnWide() {
+    return L"Cannot open";
+}
+ErrorString ReturnFalse() {
+    return false;
+}
+
+TEST(ErrorString, ReturnedNumbersAndTextsStayFailures) {
+    EXPECT_EQ(ReturnResource().Text(), CString(u"Error opening \"%s\"."));
+    const ErrorString failed = ReturnWide();
+    EXPECT_FALSE(static_cast<bool>(failed));
+    const std::wstring& wide = failed;
+    EXPECT_EQ(wide, L"Cannot open");
+    EXPECT_EQ(ReturnFalse().Text(), CString(u"Unspecified Error"));
 }
 
 }  // namespace
