@@ -11,14 +11,18 @@ int FileSection::GetErrorStatus() const {
 }
 
 bool FileSection::GetFromFileObject(const CString& name, const FileObject& from) {
-    // Copied aside first, so that a missing section leaves this object as
-    // it was, and so that from may be this object.
+    // Copied aside first, so that from may be this object. The name is taken
+    // and the old content dropped even when from has no such section: the
+    // object then stands for that section, empty.
     FileObject copy;
     const bool copied = copy.CopySection(name, from);
-    SetErrorStatus(copy.GetErrorStatus());
-    if (!copied) return false;
     MakeEmpty();
     m_name = name;
+    CreateSection(m_name, false);
+    if (!copied) {
+        SetErrorStatus(copy.GetErrorStatus());
+        return false;
+    }
     return CopySection(name, copy);
 }
 

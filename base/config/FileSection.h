@@ -30,9 +30,10 @@ class VEXBASE_API FileSection : public FileObject {
     // The status of the last operation, on the section or on the object.
     int GetErrorStatus() const override;
 
-    // Takes the name and becomes a copy of section name of from. When from
-    // has no such section: status 5 (in both objects, or FileObjectError
-    // when from throws) and false, this object unchanged.
+    // Takes the name, empties itself and becomes a copy of section name of
+    // from. When from has no such section: status 5 (in both objects, or
+    // FileObjectError when from throws) and false, this object named name
+    // and empty.
     bool GetFromFileObject(const CString& name, const FileObject& from);
     // Copies the section into to under name, or under its own name,
     // replacing a section of that name; creates it there when empty.

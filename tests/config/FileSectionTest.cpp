@@ -20,14 +20,16 @@ TEST(FileSection, CopiesOneSectionInAndOut) {
     EXPECT_EQ(gps.Name(), CString(u"GPS"));
     EXPECT_EQ(Describe(gps), "[GPS]Port=4001;Name=NMEA;");
 
-    // A missing section: status 5, the section object unchanged.
-    EXPECT_FALSE(gps.GetFromFileObject(u"Missing", settings));
-    EXPECT_EQ(gps.GetErrorStatus(), 5);
+    // A missing section: status 5, the section object named and emptied.
+    FileSection missing(u"Old");
+    EXPECT_TRUE(missing.SetItem(u"Key", u"value"));
+    EXPECT_FALSE(missing.GetFromFileObject(u"Missing", settings));
+    EXPECT_EQ(missing.GetErrorStatus(), 5);
     EXPECT_EQ(settings.GetErrorStatus(), 5);
-    EXPECT_EQ(gps.Name(), CString(u"GPS"));
-    EXPECT_EQ(Describe(gps), "[GPS]Port=4001;Name=NMEA;");
+    EXPECT_EQ(missing.Name(), CString(u"Missing"));
+    EXPECT_EQ(Describe(missing), "[Missing]");
     settings.ThrowExceptions(true);
-    EXPECT_THROW(gps.GetFromFileObject(u"Missing", settings), FileObjectError);
+    EXPECT_THROW(missing.GetFromFileObject(u"Missing", settings), FileObjectError);
     settings.ThrowExceptions(false);
 
     int port = 0;
