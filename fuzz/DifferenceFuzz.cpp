@@ -15,7 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const auto* second = split == end ? end : split + 1;
-    if (!fuzz::ParseFileObject(other, fuzz::Bytes(second, static_cast<std::size_t>(end - second)))) {
+    if (!fuzz::ParseFileObject(other,
+                               fuzz::Bytes(second, static_cast<std::size_t>(end - second)))) {
         return 0;
     }
     // The second file taken as a hand-written difference.
@@ -29,6 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FileObject withoutChecksum = other;
     withoutChecksum.DeleteSection(FileObject::CHECKSUM_SECTION);
     target.DeleteSection(FileObject::CHECKSUM_SECTION);
-    fuzz::Require(!target.HasDifferences(withoutChecksum), "the applied difference reaches the target");
+    fuzz::Require(!target.HasDifferences(withoutChecksum),
+                  "the applied difference reaches the target");
     return 0;
 }

@@ -14,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // The message file is read from disk only: one file per fuzzing process.
     static const std::filesystem::path path =
         std::filesystem::temp_directory_path() /
-        ("vexbase-fuzz-messages-" + std::to_string(reinterpret_cast<std::uintptr_t>(&path)) + ".ini");
+        ("vexbase-fuzz-messages-" + std::to_string(reinterpret_cast<std::uintptr_t>(&path)) +
+         ".ini");
     {
         std::ofstream out(path, std::ios::binary | std::ios::trunc);
         out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
