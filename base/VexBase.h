@@ -15,6 +15,7 @@
 #include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
 #include <base/geometry/Geometry.h>
+#include <base/survey/LineData.h>
 #include <base/strings/FormatString.h>
 #include <base/time/Time.h>
 
