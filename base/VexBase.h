@@ -12,6 +12,7 @@
 
 #include <base/Export.h>
 #include <base/config/Config.h>
+#include <base/data/Data.h>
 #include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
 #include <base/geometry/Geometry.h>
