@@ -16,16 +16,13 @@
 
 #include <base/Export.h>
 #include <base/framework/CString.h>
+#include <base/framework/SuiteTypes.h>
 #include <base/geometry/Page.h>
 
 #include <map>
 #include <vector>
 
 namespace vex {
-
-// Types of the suite's other components that line data passes on.
-class CAttributeMap;
-class CenterLine;
 
 // A point of a profile: position (x east, y north, z up), its chainage (the
 // distance along the centre line) and whether it begins a segment.
