@@ -12,9 +12,11 @@
 
 #include <base/Export.h>
 #include <base/config/Config.h>
+#include <base/data/Data.h>
 #include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
 #include <base/geometry/Geometry.h>
+#include <base/survey/LineData.h>
 #include <base/strings/FormatString.h>
 #include <base/time/Time.h>
 
