@@ -16,6 +16,7 @@
 #include <base/framework/Framework.h>
 #include <base/geometry/Geometry.h>
 #include <base/strings/FormatString.h>
+#include <base/survey/VesselContour.h>
 #include <base/time/Time.h>
 
 namespace vex {
