@@ -34,6 +34,9 @@
 
 namespace vex {
 
+class CDC;
+class CoordinateSystem;
+
 class VEXBASE_API VesselContour {
   public:
     // The view sides; every other value selects the plan outline too.
@@ -118,6 +121,15 @@ class VEXBASE_API VesselContour {
     // (5, 7), (5, -7), (-5, -7). Not loaded.
     void SetDefaultContour();
 
+    // --- drawing ----------------------------------------------------------------
+    // Draws the outline, closed back to its first point, with the contour's
+    // pen (width in pixels, 0 drawing one pixel wide) through view onto dc;
+    // a point with flag A gets a square mark, one with flag B a circle. A
+    // side view converted on loading is drawn in its own plane again (along
+    // or across the ship, and up). The dc's pen and brush are as before
+    // afterwards. False, drawing nothing, for a contour without points.
+    bool Draw(CDC& dc, const CoordinateSystem& view) const;
+
     // --- binary string form ---------------------------------------------------
     // Little-endian, no padding: pen colour (4 bytes), pen width (4), then
     // per point x (8), y (8), flag A (1), flag B (1): 8 + 18 n bytes. z and
@@ -129,6 +141,9 @@ class VEXBASE_API VesselContour {
     bool LoadFromString(const std::string& bytes);
 
   private:
+    // The position drawn for point: x and y, or for a converted side view
+    // its coordinates in the view's plane.
+    Point DrawingPosition(const VesselPoint& point) const;
     bool LoadShape(bool convert);
     void SaveShape();
     bool ReadPointLine(const CString& line, VesselPoint& point);
