@@ -15,9 +15,11 @@
 #include <base/data/Data.h>
 #include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
+#include <base/geodesy/CoordinateSystem.h>
 #include <base/geometry/Geometry.h>
 #include <base/survey/LineData.h>
 #include <base/strings/FormatString.h>
+#include <base/survey/VesselContour.h>
 #include <base/time/Time.h>
 
 namespace vex {

@@ -1,6 +1,6 @@
 // vex demo: a short tour on the built-in sample settings of a survey
-// vessel: show, diff, patch, seal and verify, then a position, a depth in
-// feet and the time.
+// vessel: show, diff, patch, seal and verify, a dredger's contour, then a
+// position, a depth in feet and the time.
 #include "Command.h"
 #include "Console.h"
 #include "EmbeddedSamples.h"
@@ -109,6 +109,22 @@ int RunDemo(bool keep) {
     sealed.SetItem(u"Offsets", u"GPS1.X", CString(u"9.999"), false);
     PrintLine(std::string("after changing Offsets/GPS1.X without sealing: ") +
               (vex::VerifyChecksumSection(sealed) ? "OK" : "FAILED, as it should"));
+
+    Heading("vex contour show / pack dredger-contour.ini --side 4 (a hopper dredger from ahead)");
+    vex::VesselContour hull;
+    const std::string contourFile = PathText(folder / "dredger-contour.ini");
+    if (!hull.Create(CString::FromUtf8(contourFile), vex::VesselContour::viewFront, false))
+        return Fail(kInputOutput, contourFile, "cannot be read as a contour file");
+    vex::Page extents;
+    hull.GetBoundingPage(extents);
+    PrintLine(vex::Format("%d points, %.1f m wide, %.1f m high, pen width %d", hull.GetSize(),
+                          extents.Width(), extents.Height(), hull.GetPenWidth()));
+    std::string packed;
+    hull.SaveToString(packed);
+    vex::VesselContour unpacked;
+    unpacked.LoadFromString(packed);
+    PrintLine(vex::Format("binary string of %d bytes; unpacked it gives %d points again",
+                          static_cast<int>(packed.size()), unpacked.GetSize()));
 
     Heading("vex geo 51.9225 4.47917 --style dms --decimals 2");
     CString lat;
