@@ -17,6 +17,7 @@
 #include <base/geometry/Geometry.h>
 #include <base/strings/FormatString.h>
 #include <base/time/Time.h>
+#include <base/units/Units.h>
 
 namespace vex {
 

@@ -6,6 +6,7 @@
 #include <base/framework/AtomicFile.h>
 #include <base/framework/ByteStream.h>
 #include <base/framework/CArchive.h>
+#include <base/framework/CDataExchange.h>
 #include <base/framework/CFile.h>
 #include <base/framework/CPoint.h>
 #include <base/framework/CRect.h>
