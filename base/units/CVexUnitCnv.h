@@ -16,7 +16,7 @@
 // table (UnitText.h) is changed from the user-interface thread only.
 //
 //   vex::CVexUnitCnv units;
-//   units.SetUnit(3, 0.3048, 0, u"ft", u"Foot", u"International foot");
+//   units.SetUnit(3, 0.3048, 0, u"ft", u"ft", u"International foot");
 //   double shown = units.ConvertUnit(3, 3.048);  // 10.0 feet for 3.048 stored metres
 #pragma once
 

@@ -39,61 +39,58 @@ constexpr double Edge(double cubicMetres) {
 }
 
 // Lengths, in metres.
-constexpr Unit kMetre{u"Metre", u"Metre", u"m", 1.0, 0.0};
-constexpr Unit kFootUnit{u"Foot", u"International foot", u"ft", kFoot, 0.0};
-constexpr Unit kUsFootUnit{u"USSurveyFoot", u"US survey foot", u"ftUS", kUsSurveyFoot, 0.0};
-constexpr Unit kFathom{u"Fathom", u"Fathom", u"fm", 6.0 * kFoot, 0.0};
-constexpr Unit kYard{u"Yard", u"Yard", u"yd", 3.0 * kFoot, 0.0};
-constexpr Unit kKilometre{u"Kilometre", u"Kilometre", u"km", 1000.0, 0.0};
-constexpr Unit kNauticalMileUnit{u"NauticalMile", u"Nautical mile", u"NM", kNauticalMile, 0.0};
-constexpr Unit kMillimetre{u"Millimetre", u"Millimetre", u"mm", 0.001, 0.0};
+constexpr Unit kMetre{u"m", u"Metre", u"m", 1.0, 0.0};
+constexpr Unit kFootUnit{u"ft", u"International foot", u"ft", kFoot, 0.0};
+constexpr Unit kUsFootUnit{u"ftUS", u"US survey foot", u"ftUS", kUsSurveyFoot, 0.0};
+constexpr Unit kFathom{u"fm", u"Fathom", u"fm", 6.0 * kFoot, 0.0};
+constexpr Unit kYard{u"yd", u"Yard", u"yd", 3.0 * kFoot, 0.0};
+constexpr Unit kKilometre{u"km", u"Kilometre", u"km", 1000.0, 0.0};
+constexpr Unit kNauticalMileUnit{u"NM", u"Nautical mile", u"NM", kNauticalMile, 0.0};
+constexpr Unit kMillimetre{u"mm", u"Millimetre", u"mm", 0.001, 0.0};
 
 // Speeds, in metres per second.
-constexpr Unit kMetrePerSecond{u"MetrePerSecond", u"Metres per second", u"m/s", 1.0, 0.0};
-constexpr Unit kKnot{u"Knot", u"Knot", u"kn", kNauticalMile / 3600.0, 0.0};
-constexpr Unit kKilometrePerHour{u"KilometrePerHour", u"Kilometres per hour", u"km/h",
-                                 1000.0 / 3600.0, 0.0};
-constexpr Unit kFootPerSecond{u"FootPerSecond", u"Feet per second", u"ft/s", kFoot, 0.0};
+constexpr Unit kMetrePerSecond{u"m/s", u"Metres per second", u"m/s", 1.0, 0.0};
+constexpr Unit kKnot{u"kn", u"Knot", u"kn", kNauticalMile / 3600.0, 0.0};
+constexpr Unit kKilometrePerHour{u"km/h", u"Kilometres per hour", u"km/h", 1000.0 / 3600.0, 0.0};
+constexpr Unit kFootPerSecond{u"ft/s", u"Feet per second", u"ft/s", kFoot, 0.0};
 
 // Volumes, as the edge of the unit cube in metres.
-constexpr Unit kCubicMetre{u"CubicMetre", u"Cubic metre", u"m\u00B3", 1.0, 0.0};
-constexpr Unit kLitre{u"Litre", u"Litre", u"l", 0.1, 0.0};
-constexpr Unit kCubicYard{u"CubicYard", u"Cubic yard", u"yd\u00B3", 3.0 * kFoot, 0.0};
-constexpr Unit kCubicFoot{u"CubicFoot", u"Cubic foot", u"ft\u00B3", kFoot, 0.0};
-constexpr Unit kUsGallonUnit{u"USGallon", u"US gallon", u"gal", Edge(kUsGallon), 0.0};
+constexpr Unit kCubicMetre{u"m3", u"Cubic metre", u"m\u00B3", 1.0, 0.0};
+constexpr Unit kLitre{u"l", u"Litre", u"l", 0.1, 0.0};
+constexpr Unit kCubicYard{u"yd3", u"Cubic yard", u"yd\u00B3", 3.0 * kFoot, 0.0};
+constexpr Unit kCubicFoot{u"ft3", u"Cubic foot", u"ft\u00B3", kFoot, 0.0};
+constexpr Unit kUsGallonUnit{u"galUS", u"US gallon", u"gal", Edge(kUsGallon), 0.0};
 
 // Densities: a kilogram per litre is a tonne per cubic metre.
-constexpr Unit kTonnePerCubicMetre{u"TonnePerCubicMetre", u"Tonnes per cubic metre", u"T/m\u00B3",
-                                   1.0, 0.0};
-constexpr Unit kKilogramPerLitre{u"KilogramPerLitre", u"Kilograms per litre", u"kg/l", 1.0, 0.0};
+constexpr Unit kTonnePerCubicMetre{u"t/m3", u"Tonnes per cubic metre", u"T/m\u00B3", 1.0, 0.0};
+constexpr Unit kKilogramPerLitre{u"kg/l", u"Kilograms per litre", u"kg/l", 1.0, 0.0};
 
 // Pressures, in bar (100 kPa).
-constexpr Unit kBar{u"Bar", u"Bar", u"Bar", 1.0, 0.0};
-constexpr Unit kKilopascal{u"Kilopascal", u"Kilopascal", u"kPa", 0.01, 0.0};
-constexpr Unit kPsi{u"PSI", u"Pounds per square inch", u"psi",
+constexpr Unit kBar{u"bar", u"Bar", u"Bar", 1.0, 0.0};
+constexpr Unit kKilopascal{u"kPa", u"Kilopascal", u"kPa", 0.01, 0.0};
+constexpr Unit kPsi{u"psi", u"Pounds per square inch", u"psi",
                     kPound* kGravity / (kInch * kInch) / 1e5, 0.0};
 
 // Powers, in kilowatts; the horsepower is 550 foot pounds-force per second.
-constexpr Unit kKilowatt{u"Kilowatt", u"Kilowatt", u"KW", 1.0, 0.0};
-constexpr Unit kHorsepower{u"Horsepower", u"Horsepower", u"hp",
-                           550.0 * kFoot* kPound* kGravity / 1000.0, 0.0};
-constexpr Unit kMetricHorsepower{u"MetricHorsepower", u"Metric horsepower", u"PS",
-                                 75.0 * kGravity / 1000.0, 0.0};
+constexpr Unit kKilowatt{u"kW", u"Kilowatt", u"KW", 1.0, 0.0};
+constexpr Unit kHorsepower{u"hp", u"Horsepower", u"hp", 550.0 * kFoot* kPound* kGravity / 1000.0,
+                           0.0};
+constexpr Unit kMetricHorsepower{u"PS", u"Metric horsepower", u"PS", 75.0 * kGravity / 1000.0, 0.0};
 
 // Weights, in tonnes.
-constexpr Unit kTonne{u"Tonne", u"Tonne", u"Ton", 1.0, 0.0};
-constexpr Unit kShortTon{u"ShortTon", u"Short ton", u"sh tn", 2000.0 * kPound / 1000.0, 0.0};
-constexpr Unit kLongTon{u"LongTon", u"Long ton", u"LT", 2240.0 * kPound / 1000.0, 0.0};
+constexpr Unit kTonne{u"t", u"Tonne", u"Ton", 1.0, 0.0};
+constexpr Unit kShortTon{u"tonUS", u"Short ton", u"sh tn", 2000.0 * kPound / 1000.0, 0.0};
+constexpr Unit kLongTon{u"tonUK", u"Long ton", u"LT", 2240.0 * kPound / 1000.0, 0.0};
 
 // Angles, in degrees.
-constexpr Unit kDegree{u"Degree", u"Degree", u"\u00B0", 1.0, 0.0};
-constexpr Unit kGon{u"Gon", u"Gon", u"gon", 0.9, 0.0};
-constexpr Unit kRadian{u"Radian", u"Radian", u"rad", 180.0 / std::numbers::pi, 0.0};
+constexpr Unit kDegree{u"deg", u"Degree", u"\u00B0", 1.0, 0.0};
+constexpr Unit kGon{u"gon", u"Gon", u"gon", 0.9, 0.0};
+constexpr Unit kRadian{u"rad", u"Radian", u"rad", 180.0 / std::numbers::pi, 0.0};
 
 // Temperatures, in degrees Celsius: shown = stored / factor + offset.
-constexpr Unit kCelsius{u"Celsius", u"Degrees Celsius", u"\u00B0C", 1.0, 0.0};
-constexpr Unit kFahrenheit{u"Fahrenheit", u"Degrees Fahrenheit", u"\u00B0F", 5.0 / 9.0, 32.0};
-constexpr Unit kKelvin{u"Kelvin", u"Kelvin", u"K", 1.0, 273.15};
+constexpr Unit kCelsius{u"C", u"Degrees Celsius", u"\u00B0C", 1.0, 0.0};
+constexpr Unit kFahrenheit{u"F", u"Degrees Fahrenheit", u"\u00B0F", 5.0 / 9.0, 32.0};
+constexpr Unit kKelvin{u"K", u"Kelvin", u"K", 1.0, 273.15};
 
 struct GroupInfo {
     int titleId;

@@ -2,7 +2,8 @@
 // ("System Units", "Speed Units", "Depth Units" ...), each group serving one
 // or more unit kinds of CVexUnitCnv.
 //
-// Every unit has a key (stored in settings files, never translated), a
+// Every unit has a key (stored in settings files, never translated: plain
+// ASCII symbols such as "m", "ft", "kn", "m3", "t/m3", "deg", "C"), a
 // display name, a mnemonic and the factor and offset that CVexUnitCnv::
 // SetUnit takes: for the length-relative groups the unit's linear size in
 // metres (for volumes the edge of the unit cube: a litre is 0.1), for the
@@ -13,9 +14,9 @@
 // m/s2). The catalogue is constant: thread-safe.
 //
 //   vex::CVexUnitCnv& units = vex::GetVexUnitCnv();
-//   vex::UnitDefinition::SelectUnit(units, 3, u"Foot");  // depths in feet
+//   vex::UnitDefinition::SelectUnit(units, 3, u"ft");  // depths in feet
 //   vex::UnitItem knot;
-//   vex::UnitDefinition::GetGroupItemData(vex::UnitDefinition::groupSpeed, u"Knot", knot);
+//   vex::UnitDefinition::GetGroupItemData(vex::UnitDefinition::groupSpeed, u"kn", knot);
 #pragma once
 
 #include <base/Export.h>

@@ -4,9 +4,9 @@
 // holding the key of the chosen catalogue unit (UnitDefinition.h).
 //
 //   [Units]
-//   Length = Metre
-//   Depth = Foot
-//   Speed = Knot
+//   Length = m
+//   Depth = ft
+//   Speed = kn
 //
 // A kind missing from the section keeps its default unit. So does a kind
 // whose key the catalogue does not know; that is reported through the

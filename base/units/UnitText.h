@@ -13,7 +13,7 @@
 // while no other thread converts, e.g. when settings are loaded; other
 // threads may convert freely while it does not change.
 //
-//   vex::GetVexUnitCnv().SetUnit(3, 0.3048, 0, u"ft", u"Foot", u"International foot");
+//   vex::GetVexUnitCnv().SetUnit(3, 0.3048, 0, u"ft", u"ft", u"International foot");
 //   vex::CString text = vex::InternalValueToUnitString(3.048, vex::FMT_DEPTH);  // u"10.00"
 //   double stored = vex::UnitStringToInternalValue(u"10", vex::FMT_DEPTH);  // 3.048
 #pragma once

@@ -37,33 +37,33 @@ TEST(UnitDefinition, CatalogueFactorsAgreeWithPublishedConversions) {
         double expected;  // from NIST SP 811 appendix B unless noted
     };
     const Case cases[] = {
-        {G::groupDistance, u"NauticalMile", u"Foot", 1.0, 6076.115485564304},
-        {G::groupDistance, u"Yard", u"Metre", 1.0, 0.9144},
-        {G::groupDistance, u"Kilometre", u"Millimetre", 1.5, 1.5e6},
+        {G::groupDistance, u"NM", u"ft", 1.0, 6076.115485564304},
+        {G::groupDistance, u"yd", u"m", 1.0, 0.9144},
+        {G::groupDistance, u"km", u"mm", 1.5, 1.5e6},
         // The US survey mile of 5280 survey feet.
-        {G::groupDistance, u"USSurveyFoot", u"Metre", 5280.0, 1609.347218694437},
-        {G::groupDepth, u"Fathom", u"Foot", 1.0, 6.0},
-        {G::groupDepth, u"USSurveyFoot", u"Foot", 1.0, 1.000002000004},
-        {G::groupSystem, u"Foot", u"Metre", 1.0, 0.3048},
-        {G::groupSpeed, u"Knot", u"KilometrePerHour", 1.0, 1.852},
-        {G::groupSpeed, u"MetrePerSecond", u"Knot", 1.0, 1.9438444924406},
-        {G::groupSpeed, u"FootPerSecond", u"MetrePerSecond", 1.0, 0.3048},
-        {G::groupVolume, u"USGallon", u"Litre", 1.0, 3.785411784},
-        {G::groupVolume, u"CubicYard", u"CubicMetre", 1.0, 0.764554857984},
-        {G::groupVolume, u"CubicFoot", u"Litre", 1.0, 28.316846592},
-        {G::groupVolume, u"CubicYard", u"CubicFoot", 1.0, 27.0},
-        {G::groupDensity, u"KilogramPerLitre", u"TonnePerCubicMetre", 1.025, 1.025},
-        {G::groupPressure, u"PSI", u"Kilopascal", 1.0, 6.894757293168361},
-        {G::groupPressure, u"Bar", u"PSI", 1.0, 14.503773773022},
-        {G::groupPower, u"Horsepower", u"Kilowatt", 1.0, 0.74569987158227},
-        {G::groupPower, u"MetricHorsepower", u"Kilowatt", 1.0, 0.73549875},
-        {G::groupWeight, u"ShortTon", u"Tonne", 1.0, 0.90718474},
-        {G::groupWeight, u"LongTon", u"Tonne", 1.0, 1.0160469088},
-        {G::groupAngle, u"Radian", u"Degree", 3.141592653589793, 180.0},
-        {G::groupAngle, u"Gon", u"Degree", 400.0, 360.0},
-        {G::groupTemperature, u"Celsius", u"Fahrenheit", 100.0, 212.0},
-        {G::groupTemperature, u"Fahrenheit", u"Celsius", -40.0, -40.0},
-        {G::groupTemperature, u"Kelvin", u"Fahrenheit", 0.0, -459.67},
+        {G::groupDistance, u"ftUS", u"m", 5280.0, 1609.347218694437},
+        {G::groupDepth, u"fm", u"ft", 1.0, 6.0},
+        {G::groupDepth, u"ftUS", u"ft", 1.0, 1.000002000004},
+        {G::groupSystem, u"ft", u"m", 1.0, 0.3048},
+        {G::groupSpeed, u"kn", u"km/h", 1.0, 1.852},
+        {G::groupSpeed, u"m/s", u"kn", 1.0, 1.9438444924406},
+        {G::groupSpeed, u"ft/s", u"m/s", 1.0, 0.3048},
+        {G::groupVolume, u"galUS", u"l", 1.0, 3.785411784},
+        {G::groupVolume, u"yd3", u"m3", 1.0, 0.764554857984},
+        {G::groupVolume, u"ft3", u"l", 1.0, 28.316846592},
+        {G::groupVolume, u"yd3", u"ft3", 1.0, 27.0},
+        {G::groupDensity, u"kg/l", u"t/m3", 1.025, 1.025},
+        {G::groupPressure, u"psi", u"kPa", 1.0, 6.894757293168361},
+        {G::groupPressure, u"bar", u"psi", 1.0, 14.503773773022},
+        {G::groupPower, u"hp", u"kW", 1.0, 0.74569987158227},
+        {G::groupPower, u"PS", u"kW", 1.0, 0.73549875},
+        {G::groupWeight, u"tonUS", u"t", 1.0, 0.90718474},
+        {G::groupWeight, u"tonUK", u"t", 1.0, 1.0160469088},
+        {G::groupAngle, u"rad", u"deg", 3.141592653589793, 180.0},
+        {G::groupAngle, u"gon", u"deg", 400.0, 360.0},
+        {G::groupTemperature, u"C", u"F", 100.0, 212.0},
+        {G::groupTemperature, u"F", u"C", -40.0, -40.0},
+        {G::groupTemperature, u"K", u"F", 0.0, -459.67},
     };
     for (const Case& c : cases) {
         EXPECT_NEAR(Convert(c.group, c.from, c.to, c.value), c.expected,
@@ -114,12 +114,12 @@ TEST(UnitDefinition, GroupsAreTitledListsOfDistinctUnits) {
 
 TEST(UnitDefinition, UnitsAreSelectedOnlyForKindsTheirGroupServes) {
     CVexUnitCnv units;
-    EXPECT_TRUE(UnitDefinition::SelectUnit(units, 7, u"Knot"));
+    EXPECT_TRUE(UnitDefinition::SelectUnit(units, 7, u"kn"));
     EXPECT_EQ(units.GetUnitMnem(7).ToUtf8(), "kn");
     EXPECT_EQ(units.GetUnitDispName(7).ToUtf8(), "Knot");
-    EXPECT_FALSE(UnitDefinition::SelectUnit(units, 3, u"Knot"));  // a speed is no depth
+    EXPECT_FALSE(UnitDefinition::SelectUnit(units, 3, u"kn"));    // a speed is no depth
     EXPECT_FALSE(UnitDefinition::SelectUnit(units, 3, u"foot"));  // keys are exact
-    EXPECT_FALSE(UnitDefinition::SelectUnit(units, 16, u"Metre"));
+    EXPECT_FALSE(UnitDefinition::SelectUnit(units, 16, u"m"));
     EXPECT_EQ(units.GetUnitMnem(3).ToUtf8(), "m");
 
     EXPECT_EQ(UnitDefinition::GetUnitFormatByName(u"Depth Units"), FMT_DEPTH);

@@ -28,16 +28,16 @@ std::string Key(const CVexUnitCnv& units, int kind) {
 
 TEST(UnitSettings, ChosenUnitsSurviveSavingAndReading) {
     CVexUnitCnv chosen;
-    ASSERT_TRUE(UnitDefinition::SelectUnit(chosen, 1, u"Foot"));
-    ASSERT_TRUE(UnitDefinition::SelectUnit(chosen, 3, u"Fathom"));
-    ASSERT_TRUE(UnitDefinition::SelectUnit(chosen, 2, u"Knot"));
-    ASSERT_TRUE(UnitDefinition::SelectUnit(chosen, 21, u"Fahrenheit"));
+    ASSERT_TRUE(UnitDefinition::SelectUnit(chosen, 1, u"ft"));
+    ASSERT_TRUE(UnitDefinition::SelectUnit(chosen, 3, u"fm"));
+    ASSERT_TRUE(UnitDefinition::SelectUnit(chosen, 2, u"kn"));
+    ASSERT_TRUE(UnitDefinition::SelectUnit(chosen, 21, u"F"));
 
     FileObject file = Parsed("[Vessel]\r\nName = Hydra\r\n");
     ASSERT_TRUE(SaveUnits(chosen, file));
     CString value;
     ASSERT_TRUE(file.GetItem(u"Units", u"Depth", value));
-    EXPECT_EQ(value.ToUtf8(), "Fathom");
+    EXPECT_EQ(value.ToUtf8(), "fm");
     EXPECT_FALSE(file.HasKey(u"Units", u"Volume"));  // never chosen
 
     // Through the file's text, as a settings file on disk holds it.
@@ -48,7 +48,7 @@ TEST(UnitSettings, ChosenUnitsSurviveSavingAndReading) {
     ASSERT_TRUE(reread.FileOpen(memory, u"units.ini"));
 
     CVexUnitCnv loaded;
-    ASSERT_TRUE(UnitDefinition::SelectUnit(loaded, 5, u"Litre"));  // replaced by the default
+    ASSERT_TRUE(UnitDefinition::SelectUnit(loaded, 5, u"l"));  // replaced by the default
     ASSERT_TRUE(LoadUnits(reread, loaded));
     EXPECT_EQ(reread.GetErrorStatus(), FileObject::statusOk);
     for (int kind = 0; kind < CVexUnitCnv::kNumKinds; ++kind) {
@@ -66,13 +66,13 @@ TEST(UnitSettings, UnknownUnitsKeepTheirKindsDefaultAndAreReported) {
         const char* speed;  // key of kind 2 afterwards
     };
     const Case cases[] = {
-        {"[Units]\r\nDepth = Foot\r\nSpeed = Knot\r\n", true, "Foot", "Knot"},
-        {"[Units]\r\nDepth = Furlong\r\nSpeed = Knot\r\n", false, "", "Knot"},
-        {"[Units]\r\nDepth = Knot\r\nSpeed = Knot\r\n", false, "", "Knot"},  // wrong group
-        {"[Units]\r\nDepth =\r\nSpeed = Metre\r\n", false, "", ""},
-        {"[Units]\r\nDepth = foot\r\n", false, "", ""},  // keys are exact
+        {"[Units]\r\nDepth = ft\r\nSpeed = kn\r\n", true, "ft", "kn"},
+        {"[Units]\r\nDepth = Furlong\r\nSpeed = kn\r\n", false, "", "kn"},
+        {"[Units]\r\nDepth = kn\r\nSpeed = kn\r\n", false, "", "kn"},  // wrong group
+        {"[Units]\r\nDepth =\r\nSpeed = m\r\n", false, "", ""},
+        {"[Units]\r\nDepth = FT\r\n", false, "", ""},  // keys are exact
         {"[Units]\r\nUnrelated = 1\r\n", true, "", ""},
-        {"[Other]\r\nDepth = Foot\r\n", true, "", ""},  // no section: the defaults
+        {"[Other]\r\nDepth = ft\r\n", true, "", ""},  // no section: the defaults
     };
     for (const Case& c : cases) {
         const FileObject file = Parsed(c.text);
@@ -91,7 +91,7 @@ TEST(UnitSettings, UnknownUnitsKeepTheirKindsDefaultAndAreReported) {
 }
 
 TEST(UnitSettings, UnknownUnitThrowsInThrowModeAfterTheOthersAreRead) {
-    FileObject file = Parsed("[Units]\r\nSpeed = Knot\r\nDepth = Furlong\r\nLength = Foot\r\n");
+    FileObject file = Parsed("[Units]\r\nSpeed = kn\r\nDepth = Furlong\r\nLength = ft\r\n");
     file.ThrowExceptions(true);
     CVexUnitCnv units;
     try {
@@ -102,8 +102,8 @@ TEST(UnitSettings, UnknownUnitThrowsInThrowModeAfterTheOthersAreRead) {
         EXPECT_EQ(e.Key().ToUtf8(), "Depth");
         EXPECT_EQ(e.Section().ToUtf8(), "Units");
     }
-    EXPECT_EQ(Key(units, 2), "Knot");
-    EXPECT_EQ(Key(units, 1), "Foot");
+    EXPECT_EQ(Key(units, 2), "kn");
+    EXPECT_EQ(Key(units, 1), "ft");
     EXPECT_EQ(Key(units, 3), "");
 }
 

@@ -29,21 +29,21 @@ std::string Text(double value, int formatId, int decimals = -1) {
 }
 
 TEST_F(UnitText, SystemLengthInFeetIsShownInFeetAndInches) {
-    Select(1, u"Foot");
+    Select(1, u"ft");
     SetFeetDisplayMode(2);
     EXPECT_EQ(Text(3.5, FMT_LENGTH), "3' 6\"");
     SetFeetDisplayMode(4);
     EXPECT_EQ(Text(5.53125, FMT_LENGTH), "5' 6 3/8\"");
     // Kinds not shown in "ft" ignore the feet mode.
     EXPECT_EQ(Text(3.5, FMT_PRESSURE), "3.50");
-    Select(3, u"USSurveyFoot");
+    Select(3, u"ftUS");
     EXPECT_EQ(Text(3.5, FMT_DEPTH), "3.50");
     SetFeetDisplayMode(0);
     EXPECT_EQ(Text(3.5, FMT_LENGTH), "3.50");
 }
 
 TEST_F(UnitText, DecimalsComeFromTheCallerTheFormatOrTheValue) {
-    Select(3, u"Foot");
+    Select(3, u"ft");
     struct Case {
         double value;
         int format;
@@ -66,7 +66,7 @@ TEST_F(UnitText, DecimalsComeFromTheCallerTheFormatOrTheValue) {
 }
 
 TEST_F(UnitText, TypedTextsBecomeStoredValues) {
-    Select(3, u"Foot");
+    Select(3, u"ft");
     struct Case {
         int inputMode;
         const char16_t* text;
@@ -120,7 +120,7 @@ struct FakeDialog : CDataExchange {
 };
 
 TEST_F(UnitText, DialogExchangeWritesAndReadsTheUsersUnit) {
-    Select(3, u"Foot");
+    Select(3, u"ft");
     FakeDialog dialog;
     double depth = 3.048;
     DDX_SysUnit(&dialog, 101, depth, FMT_DEPTH);
