@@ -181,6 +181,15 @@ int UnitDefinition::GetUnitFormatByName(const CString& groupName) {
     return 0;
 }
 
+std::vector<UnitItem> UnitDefinition::GetGroupItems(int group) {
+    std::vector<UnitItem> items;
+    if (const GroupInfo* g = FindGroup(group)) {
+        for (const Unit* u : g->units)
+            items.push_back(ToItem(*u));
+    }
+    return items;
+}
+
 std::vector<int> UnitDefinition::GetGroupKinds(int group) {
     const GroupInfo* g = FindGroup(group);
     return g ? g->kinds : std::vector<int>();

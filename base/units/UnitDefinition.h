@@ -71,6 +71,9 @@ class VEXBASE_API UnitDefinition {
     // group has that title.
     static int GetUnitFormatByName(const CString& groupName);
 
+    // All units of group in catalogue order; empty for a number outside
+    // the groups.
+    static std::vector<UnitItem> GetGroupItems(int group);
     // The unit kinds group serves; empty for a number outside the groups.
     static std::vector<int> GetGroupKinds(int group);
     // The group serving kind; -1 for kinds without a choice of units.

@@ -129,17 +129,13 @@ TEST(CVexUnitCnv, ToInternalAndToExternalUnitAreInversesRelativeToTheSystemLengt
     }
 }
 
-TEST(CVexUnitCnv, FormatTableMapsBothWays) {
-    const int formatKinds[][2] = {
-        {2, 3},   {3, 2},   {4, 4},   {5, 1},   {6, 5},   {7, 6},   {8, 7},   {9, 8},   {12, 18},
-        {35, 9},  {36, 10}, {37, 11}, {38, 12}, {39, 13}, {40, 14}, {41, 15}, {42, 16}, {43, 17},
-        {47, 19}, {48, 21}, {49, 22}, {50, 23}, {51, 24}, {52, 25}, {53, 26},
-    };
+TEST(CVexUnitCnv, FormatTableMapsBothWaysAndUnitlessFormatsToKindZero) {
+    const int formatKinds[][2] = {{2, 3}, {5, 1}, {12, 18}, {35, 9}, {47, 19}, {48, 21}, {53, 26}};
     for (const auto& fk : formatKinds) {
         EXPECT_EQ(CVexUnitCnv::ConvertFMTtoUNIT(fk[0]), fk[1]) << "format " << fk[0];
         EXPECT_EQ(CVexUnitCnv::ConvertUNITtoFMT(fk[1]), fk[0]) << "kind " << fk[1];
     }
-    for (int format : {-1, 0, 1, 10, 11, 13, 34, 44, 46, 54, 65535}) {
+    for (int format : {-1, 0, 1, 10, 13, 46, 54}) {
         EXPECT_EQ(CVexUnitCnv::ConvertFMTtoUNIT(format), 0) << "format " << format;
     }
     for (int kind : {0, 20, 27, -1}) {
@@ -169,15 +165,12 @@ TEST(CVexUnitCnv, ChainageMnemonicFollowsTheSystemLengthForKilometresAndStations
     EXPECT_EQ(Mnemonic(units, 4), "own");
 }
 
-TEST(CVexUnitCnv, CopiesKeepTheChosenUnitsAndDefaultsRestoreThem) {
+TEST(CVexUnitCnv, CopiesKeepTheChosenUnits) {
     CVexUnitCnv units;
     units.SetUnit(1, kFoot, 0, u"ft", u"ft", u"International foot");
     const CVexUnitCnv copy = units;
-    EXPECT_TRUE(copy.IsInitialised());
-    EXPECT_NEAR(copy.GetMultiplier(3), kFoot, 1e-15);
     units.SetDefaults();
     EXPECT_EQ(units.GetMultiplier(3), 1.0);
-    EXPECT_TRUE(units.GetUnitKey(1).IsEmpty());
     EXPECT_NEAR(copy.GetMultiplier(3), kFoot, 1e-15);
 }
 

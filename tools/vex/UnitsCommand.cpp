@@ -35,12 +35,7 @@ int ConversionKind(int group) {
 // The unit of group named by its mnemonic (exactly) or its key (without
 // case).
 bool FindInGroup(int group, const CString& name, vex::UnitItem& item) {
-    int position = 0;
-    CString key;
-    for (bool more = UnitDefinition::GetFirstGroupItem(group, position, key); more;
-         more = UnitDefinition::GetNextGroupItem(group, position, key)) {
-        vex::UnitItem candidate;
-        UnitDefinition::GetGroupItemData(group, key, candidate);
+    for (const vex::UnitItem& candidate : UnitDefinition::GetGroupItems(group)) {
         if (candidate.mnemonic == name || candidate.key.CompareNoCase(name) == 0) {
             item = candidate;
             return true;
@@ -65,14 +60,9 @@ void Select(int kind, const vex::UnitItem& item) {
 int RunList() {
     for (int group = 0; group < UnitDefinition::numGroups; ++group) {
         PrintLine(UnitDefinition::GetGroupName(group));
-        int position = 0;
-        CString key;
-        for (bool more = UnitDefinition::GetFirstGroupItem(group, position, key); more;
-             more = UnitDefinition::GetNextGroupItem(group, position, key)) {
-            vex::UnitItem item;
-            UnitDefinition::GetGroupItemData(group, key, item);
+        for (const vex::UnitItem& item : UnitDefinition::GetGroupItems(group)) {
             CString line;
-            line.Format(u"  %-20s %-6s %-26s factor %s", item.key.GetString(),
+            line.Format(u"  %-7s %-6s %-26s factor %s", item.key.GetString(),
                         item.mnemonic.GetString(), item.displayName.GetString(),
                         vex::FormatDouble(item.factor, vex::GetDoublePrecision(item.factor), 0)
                             .GetString());
