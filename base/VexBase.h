@@ -21,6 +21,7 @@
 #include <base/strings/FormatString.h>
 #include <base/survey/VesselContour.h>
 #include <base/time/Time.h>
+#include <base/units/Units.h>
 
 namespace vex {
 

@@ -8,6 +8,7 @@
 #include <base/framework/CArray.h>
 #include <base/framework/CArchive.h>
 #include <base/framework/CDC.h>
+#include <base/framework/CDataExchange.h>
 #include <base/framework/CFile.h>
 #include <base/framework/CMap.h>
 #include <base/framework/CPoint.h>

@@ -28,6 +28,23 @@ enum StringResourceId : int {
     // The value of key "%s" in section "%s" of "%s" is not of the expected type.
     IDS_VALUE_NOT_CONVERTED = 12042,
     IDS_DEGREE_SIGN = 12100,  // the degree sign of angle texts
+    // Default mnemonics of the unit kinds 0-26 (CVexUnitCnv): the mnemonic
+    // of kind k is IDS_UNIT_MNEMONIC_0 + k; kinds 0, 16 and 17 have none.
+    IDS_UNIT_MNEMONIC_0 = 12200,
+    IDS_UNIT_MNEMONIC_LAST = 12226,
+    // Titles of the unit selection lists (UnitDefinition).
+    IDS_UNITS_NONE = 12230,         // No Units
+    IDS_UNITS_SYSTEM = 12231,       // System Units
+    IDS_UNITS_SPEED = 12232,        // Speed Units
+    IDS_UNITS_DISTANCE = 12233,     // Distance Units
+    IDS_UNITS_DEPTH = 12234,        // Depth Units
+    IDS_UNITS_VOLUME = 12235,       // Volume Units
+    IDS_UNITS_DENSITY = 12236,      // Density Units
+    IDS_UNITS_PRESSURE = 12237,     // Pressure Units
+    IDS_UNITS_POWER = 12238,        // Power Units
+    IDS_UNITS_WEIGHT = 12239,       // Weight Units
+    IDS_UNITS_ANGLE = 12240,        // Angle Units
+    IDS_UNITS_TEMPERATURE = 12241,  // Temperature Units
 };
 
 // Copies the text of string resource id into text; false, with text

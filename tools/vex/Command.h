@@ -18,5 +18,6 @@ void AddGeoCommand(CLI::App& app, Action& run);
 void AddNumberCommand(CLI::App& app, Action& run);
 void AddDemoCommand(CLI::App& app, Action& run);
 void AddContourCommand(CLI::App& app, Action& run);
+void AddUnitsCommand(CLI::App& app, Action& run);
 
 }  // namespace vextool

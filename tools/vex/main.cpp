@@ -35,6 +35,7 @@ int main(int argc, char** argv) {
     vextool::AddNumberCommand(app, run);
     vextool::AddContourCommand(app, run);
     vextool::AddDemoCommand(app, run);
+    vextool::AddUnitsCommand(app, run);
 
     try {
         std::vector<std::string> reversed(args.rbegin(), args.rend() - 1);
