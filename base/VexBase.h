@@ -14,6 +14,7 @@
 #include <base/config/Config.h>
 #include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
+#include <base/geodesy/GeodesyRegistries.h>
 #include <base/geometry/Geometry.h>
 #include <base/strings/FormatString.h>
 #include <base/time/Time.h>
