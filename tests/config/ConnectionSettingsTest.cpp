@@ -1,6 +1,5 @@
 #include <base/config/CFileSettings.h>
 #include <base/config/CNetSettings.h>
-#include <base/config/IXXATSettings.h>
 #include <base/config/OPCSettings.h>
 #include <base/config/OpcUaSettings.h>
 
@@ -69,15 +68,12 @@ TEST(OPCSettings, ForceSetterWritesTheGatewayFlag) {
     opc.SetForce1(true);
     EXPECT_FALSE(opc.GetForce1());
     EXPECT_TRUE(opc.GetFSGateway());
-    opc.SetHostName(u"server");
-    const OPCSettings copy = opc;
-    EXPECT_TRUE(copy.GetFSGateway());
     opc.ResetToDefaults();
     EXPECT_FALSE(opc.GetFSGateway());
     EXPECT_EQ(opc.GetHostName(), CString(u"localhost"));
 }
 
-TEST(ConnectionSettings, RecordsResetToTheirDefaults) {
+TEST(OpcUaSettings, ResetRestoresEveryDefault) {
     OpcUaSettings ua;
     ua.SetHostName(u"plc");
     ua.SetPortName(u"4840");
@@ -90,17 +86,6 @@ TEST(ConnectionSettings, RecordsResetToTheirDefaults) {
     EXPECT_TRUE(ua.GetCertificate().IsEmpty());
     EXPECT_EQ(ua.GetSecurityPolicy(), 0);
     EXPECT_EQ(ua.GetMessageSecurityMode(), 1);
-
-    IXXATSettings can;
-    can.SetInterfaceName(u"USB-to-CAN");
-    can.SetBusName(u"CAN1");
-    can.SetLineNumber(2);
-    const IXXATSettings copy = can;
-    can.ResetToDefaults();
-    EXPECT_TRUE(can.GetInterfaceName().IsEmpty());
-    EXPECT_TRUE(can.GetBusName().IsEmpty());
-    EXPECT_EQ(can.GetLineNumber(), 0);
-    EXPECT_EQ(copy.GetLineNumber(), 2);
 }
 
 TEST(CFileSettings, ResetRestoresOnlyTheFileName) {

@@ -50,28 +50,6 @@ TEST(GeoidModel, InitTakesTheSystemsUnitAndFallsBackToMetres) {
     EXPECT_EQ(model.GetUnitName(), CString(u"ft"));
 }
 
-TEST(GeoidModel, BaseClassStoresSettingsButCalculatesNothing) {
-    GeoidModel model;
-    EXPECT_EQ(model.GetUnitFactor(), 1.0);
-    EXPECT_EQ(model.GetUnitName(), CString(u"m"));
-    EXPECT_TRUE(model.SetFileName(u"geoid.grd"));
-    model.SetGeoidChartDatum(u"LAT");
-
-    GeoidModel copy(model);
-    EXPECT_EQ(copy.GetFileName(), CString(u"geoid.grd"));
-    EXPECT_EQ(copy.GetGeoidChartDatum(), CString(u"LAT"));
-
-    double first = 7.0, second = 8.0;
-    CString message = u"old";
-    EXPECT_FALSE(model.Calculate(52.0, 4.0, first, second, false));
-    EXPECT_FALSE(model.Calculate(1.0, 2.0, 3.0, 4.0, first, message));
-    EXPECT_FALSE(model.CalculateLocalEllipsCorrection(52.0, 4.0, first, second, false));
-    EXPECT_EQ(first, 7.0);
-    EXPECT_EQ(second, 8.0);
-    EXPECT_TRUE(model.CheckGeoidModelFiles(u"/no/such/folder", message, true));
-    EXPECT_TRUE(message.IsEmpty());
-}
-
 // A model that says which creator made it.
 struct TaggedModel : GeoidModel {
     explicit TaggedModel(int tag) : tag(tag) {}
