@@ -16,6 +16,7 @@
 #include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
 #include <base/geodesy/CoordinateSystem.h>
+#include <base/geodesy/GeodesyRegistries.h>
 #include <base/geometry/Geometry.h>
 #include <base/survey/LineData.h>
 #include <base/strings/FormatString.h>

@@ -19,5 +19,6 @@ void AddNumberCommand(CLI::App& app, Action& run);
 void AddDemoCommand(CLI::App& app, Action& run);
 void AddContourCommand(CLI::App& app, Action& run);
 void AddUnitsCommand(CLI::App& app, Action& run);
+void AddPortsCommand(CLI::App& app, Action& run);
 
 }  // namespace vextool

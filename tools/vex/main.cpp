@@ -36,6 +36,7 @@ int main(int argc, char** argv) {
     vextool::AddContourCommand(app, run);
     vextool::AddDemoCommand(app, run);
     vextool::AddUnitsCommand(app, run);
+    vextool::AddPortsCommand(app, run);
 
     try {
         std::vector<std::string> reversed(args.rbegin(), args.rend() - 1);

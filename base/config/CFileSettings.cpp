@@ -1,0 +1,15 @@
+#include <base/config/CFileSettings.h>
+
+namespace vex {
+
+CFileSettings::CFileSettings() {
+    ResetToDefaults();
+}
+
+CFileSettings::~CFileSettings() = default;
+
+void CFileSettings::ResetToDefaults() {
+    m_fileName = u"OutputLogFile";
+}
+
+}  // namespace vex

@@ -1,0 +1,32 @@
+# Runs `vex ports`: it succeeds whether or not the machine has serial ports,
+# and every line it prints names a port as the platform does.
+# -DVEX=program -DEMULATOR=wine-or-empty -DWINDOWS=ON|OFF
+execute_process(COMMAND ${EMULATOR} ${VEX} ports RESULT_VARIABLE rc OUTPUT_VARIABLE out
+                ERROR_VARIABLE err)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "vex ports: exit ${rc}\nstdout: ${out}\nstderr: ${err}")
+endif()
+if(WINDOWS)
+  set(pattern "^COM([1-9]|[1-9][0-9]|1[0-9][0-9]|2[0-4][0-9]|25[0-5])$")
+else()
+  set(pattern "^/dev/[A-Za-z0-9_.-]+$")
+endif()
+string(REPLACE "\r" "" out "${out}")
+string(REGEX REPLACE "\n$" "" lines "${out}")
+if(NOT lines STREQUAL "")
+  string(REPLACE "\n" ";" lines "${lines}")
+  foreach(line IN LISTS lines)
+    if(NOT line MATCHES "${pattern}")
+      message(SEND_ERROR "vex ports: '${line}' is not a port name")
+    endif()
+  endforeach()
+endif()
+
+execute_process(COMMAND ${EMULATOR} ${VEX} ports --help RESULT_VARIABLE rc OUTPUT_VARIABLE out)
+if(NOT rc EQUAL 0 OR NOT out MATCHES "Example: vex ports")
+  message(SEND_ERROR "vex ports --help: exit ${rc}\n${out}")
+endif()
+execute_process(COMMAND ${EMULATOR} ${VEX} ports COM1 RESULT_VARIABLE rc OUTPUT_QUIET ERROR_QUIET)
+if(NOT rc EQUAL 2)
+  message(SEND_ERROR "vex ports COM1: exit ${rc}, expected 2 (usage)")
+endif()
