@@ -23,15 +23,10 @@ VexGeoCoordSysLoader& VexGeoCoordSysLoader::Instance() {
 bool VexGeoCoordSysLoader::LoadDLL(const CString& name, VexGeoCoordSysBase*) {
     std::lock_guard lock(mutex_);
     if (name == kLibraryName && !loaded_) {
-        void* module = platform::LoadDynamicLibrary(kLibraryFile);
-        if (module != nullptr) {
-            if (platform::FindLibraryFunction(module, kRegisterFunction) != nullptr) {
-                module_ = module;
-                loaded_ = true;
-            } else {
-                platform::FreeDynamicLibrary(module);
-            }
-        }
+        // Kept even without the entry point: the library is never unloaded,
+        // since types it registered elsewhere may still be in use.
+        module_ = platform::LoadDynamicLibrary(kLibraryFile);
+        loaded_ = module_ != nullptr;
     }
     if (!loaded_) return false;
     platform::LibraryFunction registerCoordSys =

@@ -32,10 +32,11 @@ class VEXBASE_API VexGeoCoordSysLoader {
 
     // With name "VEXCoordSys" loads the geodesy library unless it is loaded
     // already. Then, whatever the name, calls the loaded library's
-    // RegisterCoordSys and returns true. False when no library is loaded:
-    // the file is missing or cannot be loaded, or it lacks RegisterCoordSys
-    // (such a library is released again, so a later call may load the
-    // right one). coordSys is accepted for callers' sake and not used.
+    // RegisterCoordSys and returns true. False when no library is loaded
+    // (the file is missing or cannot be loaded: a later call tries again) or
+    // when the loaded one lacks RegisterCoordSys (it stays loaded all the
+    // same, like every library loaded here). coordSys is accepted for
+    // callers' sake and not used.
     bool LoadDLL(const CString& name, VexGeoCoordSysBase* coordSys = nullptr);
 
     // Whether the geodesy library is loaded.
