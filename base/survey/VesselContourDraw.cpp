@@ -4,6 +4,7 @@
 #include <base/geodesy/CoordinateSystem.h>
 
 #include <algorithm>
+#include <climits>
 #include <cstdint>
 #include <vector>
 
@@ -75,14 +76,21 @@ bool VesselContour::Draw(CDC& dc, const CoordinateSystem& view) const {
         dc.Polyline(pixels.data(), static_cast<int>(pixels.size()));
     }
 
-    // Marks stay visible beside a thick outline.
-    const int reach = std::max(3, dc.GetPenWidth() + 2);
+    // Marks stay visible beside a thick outline. The corners are worked out
+    // wide and held to int: a point far off the view maps to the edge of the
+    // pixel range, and a pen width read from a file may be anything.
+    const long long reach = std::max(3, std::min(dc.GetPenWidth(), 1000) + 2);
+    auto edge = [](long long v) {
+        return static_cast<int>(std::clamp<long long>(v, INT_MIN, INT_MAX));
+    };
     dc.SetPen(1, colour);
     for (std::size_t i = 0; i < points_.size(); ++i) {
-        const int x = static_cast<int>(pixels[i].x);
-        const int y = static_cast<int>(pixels[i].y);
-        if (points_[i].GetFlagA()) dc.Rectangle(x - reach, y - reach, x + reach + 1, y + reach + 1);
-        if (points_[i].GetFlagB()) dc.Ellipse(x - reach, y - reach, x + reach + 1, y + reach + 1);
+        const long long x = pixels[i].x;
+        const long long y = pixels[i].y;
+        const int left = edge(x - reach), top = edge(y - reach);
+        const int right = edge(x + reach + 1), bottom = edge(y + reach + 1);
+        if (points_[i].GetFlagA()) dc.Rectangle(left, top, right, bottom);
+        if (points_[i].GetFlagB()) dc.Ellipse(left, top, right, bottom);
     }
     return true;
 }

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 namespace vex {
 namespace {
 
@@ -92,6 +94,21 @@ TEST(VesselContourDraw, ASideViewIsDrawnInItsOwnPlane) {
     SvgDC untouched(200, 200);
     EXPECT_FALSE(VesselContour().Draw(untouched, TenPixelsPerMetre()));
     EXPECT_EQ(untouched.GetDocument(), SvgDC(200, 200).GetDocument());
+}
+
+// Found by fuzzing: marks of points far off the view, with the widest pen a
+// file can hold, overflowed the corner arithmetic (the sanitizer build
+// stops on that).
+TEST(VesselContourDraw, FarPointsAndHugePensDrawWithoutOverflow) {
+    VesselContour contour;
+    contour.SetPenWidth(INT_MAX);
+    contour.AddPoint(VesselPoint(Point(1e300, -1e300), true, true));
+    contour.AddPoint(VesselPoint(Point(-1e300, 1e300), true, true));
+    CoordinateSystem view;
+    view.SetPixelWindow(0, 0, 64, 48);
+    SvgDC dc(64, 48);
+    EXPECT_TRUE(contour.Draw(dc, view));
+    EXPECT_NE(dc.GetDocument().find("<rect"), std::string::npos) << "the marks are drawn";
 }
 
 }  // namespace
