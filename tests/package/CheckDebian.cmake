@@ -1,7 +1,7 @@
 # Makes the Debian package from the build tree, unpacks it with dpkg -x into
 # a scratch root and checks its fields, its contents and that its vex runs
 # from there.
-# Arguments: -DBUILD_DIR= -DWORK_DIR= -DCPACK= -DVERSION= -DLIBDIR= -DMANDIR=
+# Arguments: -DBUILD_DIR= -DWORK_DIR= -DCPACK= -DVERSION= -DCOMMIT=ON|OFF -DLIBDIR= -DMANDIR=
 include(${CMAKE_CURRENT_LIST_DIR}/InstalledTool.cmake)
 file(REMOVE_RECURSE ${WORK_DIR})
 

@@ -2,7 +2,7 @@
 # meets there: the vex tool and its manual page, and consumer projects built
 # against the install with find_package(VexBase) and with pkg-config, and
 # against the checkout with add_subdirectory.
-# Arguments: -DBUILD_DIR= -DSOURCE_DIR= -DWORK_DIR= -DCXX= -DVERSION=
+# Arguments: -DBUILD_DIR= -DSOURCE_DIR= -DWORK_DIR= -DCXX= -DVERSION= -DCOMMIT=ON|OFF
 #            -DBINDIR= -DLIBDIR= -DMANDIR= (the install layout, relative)
 include(${CMAKE_CURRENT_LIST_DIR}/InstalledTool.cmake)
 file(REMOVE_RECURSE ${WORK_DIR})

@@ -4,7 +4,12 @@
 function(check_installed_vex vex version libdir)
   execute_process(COMMAND env -i ${vex} --version
                   RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
-  if(rc OR NOT out MATCHES "^vex ${version} \\(vexbase ${version}\\)\n(commit [0-9a-f]+(-dirty)?, )?[A-Za-z ]+ build")
+  # Built from a git checkout (COMMIT set by the caller), it names the commit.
+  set(commit "(commit [0-9a-f]+(-dirty)?, )?")
+  if(COMMIT)
+    set(commit "commit [0-9a-f]+(-dirty)?, ")
+  endif()
+  if(rc OR NOT out MATCHES "^vex ${version} \\(vexbase ${version}\\)\n${commit}([A-Za-z]+ build|build type not set)\n")
     message(FATAL_ERROR "${vex} --version: exit ${rc}\n${out}${err}")
   endif()
   execute_process(COMMAND env -i ldd ${vex} OUTPUT_VARIABLE out)

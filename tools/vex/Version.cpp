@@ -12,7 +12,7 @@ std::string VersionText() {
     const std::string commit = VEX_BUILD_COMMIT;
     if (!commit.empty()) text += "commit " + commit + ", ";
     const std::string buildType = VEX_TOOL_BUILD_TYPE;
-    text += (buildType.empty() ? std::string("no build type") : buildType) + " build";
+    text += buildType.empty() ? "build type not set" : buildType + " build";
     return text;
 }
 
