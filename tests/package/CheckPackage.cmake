@@ -3,6 +3,7 @@
 # against the install with find_package(VexBase) and with pkg-config, and
 # against the checkout with add_subdirectory.
 # Arguments: -DBUILD_DIR= -DSOURCE_DIR= -DWORK_DIR= -DCXX= -DVERSION= -DCOMMIT=ON|OFF
+#            -DTOOL=1|0 (whether the vex tool is built)
 #            -DBINDIR= -DLIBDIR= -DMANDIR= (the install layout, relative)
 include(${CMAKE_CURRENT_LIST_DIR}/InstalledTool.cmake)
 file(REMOVE_RECURSE ${WORK_DIR})
@@ -14,9 +15,11 @@ if(rc)
   message(FATAL_ERROR "install failed")
 endif()
 
-check_installed_vex(${prefix}/${BINDIR}/vex ${VERSION} ${prefix}/${LIBDIR})
-if(NOT EXISTS ${prefix}/${MANDIR}/man1/vex.1)
-  message(FATAL_ERROR "no manual page in ${prefix}/${MANDIR}/man1")
+if(TOOL)
+  check_installed_vex(${prefix}/${BINDIR}/vex ${VERSION} ${prefix}/${LIBDIR})
+  if(NOT EXISTS ${prefix}/${MANDIR}/man1/vex.1)
+    message(FATAL_ERROR "no manual page in ${prefix}/${MANDIR}/man1")
+  endif()
 endif()
 
 foreach(mode package subdirectory)
