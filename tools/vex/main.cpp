@@ -3,6 +3,7 @@
 #include "Command.h"
 #include "Console.h"
 #include "ExitCode.h"
+#include "Version.h"
 
 #include <base/VexBase.h>
 #include <base/platform/Console.h>
@@ -20,8 +21,7 @@ int main(int argc, char** argv) {
 
     CLI::App app{"vex - settings files, checksums, times and coordinates of the Vex suite", "vex"};
     app.require_subcommand(1);
-    app.set_version_flag("--version", std::string("vex ") + VEX_TOOL_VERSION + " (vexbase " +
-                                          vex::VersionString() + ")");
+    app.set_version_flag("--version", vextool::VersionText());
     app.footer(
         "Exit status: 0 success, 1 files differ or verification failed, 2 usage, 3 input/output "
         "error.\n"
