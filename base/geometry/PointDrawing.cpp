@@ -75,6 +75,11 @@ bool Point::DrawSymbol(const CoordinateSystem& cs, CDC& dc, PointSymbol symbol, 
             break;
         }
         case SYMBOL_DOT:
+            if (s == 0) {
+                // A disc of no radius would not show: the point's pixel does.
+                dc.SetPixel(x, y, dc.GetPenColor());
+                break;
+            }
             dc.SetBrush(dc.GetPenColor());
             dc.Ellipse(x - s, y - s, x + s + 1, y + s + 1);
             break;
