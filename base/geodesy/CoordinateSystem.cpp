@@ -18,27 +18,46 @@ Point Middle(const Page& page) {
     return Point((page.x1 + page.x2) / 2.0, (page.y1 + page.y2) / 2.0, 0.0);
 }
 
-// A whole pixel value as an integer; values beyond a 32-bit int are held at
-// its limits and NaN gives 0, where a plain conversion would be undefined.
-long ToPixel(double v) {
-    if (!(v == v)) {
+// floor(v) as an integer; values beyond a 32-bit int are held at its limits
+// and NaN gives 0, where a plain conversion would be undefined. Holding
+// first keeps the conversion in range, and flooring through it is much
+// cheaper than std::floor on processors without a rounding instruction.
+inline long FloorToPixel(double v) {
+    // max and min in this order pass a NaN through untouched, so the last
+    // test catches it without a branch of its own.
+    const double held =
+        std::min(std::max(v, static_cast<double>(INT_MIN)), static_cast<double>(INT_MAX));
+    if (!(held == held)) {
         return 0;
     }
-    return static_cast<long>(
-        std::clamp(v, static_cast<double>(INT_MIN), static_cast<double>(INT_MAX)));
+    const long long truncated = static_cast<long long>(held);
+    return static_cast<long>(truncated - (static_cast<double>(truncated) > held ? 1 : 0));
 }
 
-template <typename P>
-std::size_t MapPoints(const CoordinateSystem& cs, std::span<const P> world,
-                      std::span<CPoint> pixels) {
-    const std::size_t count = std::min(world.size(), pixels.size());
+// A whole pixel value (already floored) as an integer, held as above.
+inline long ToPixel(double v) {
+    return FloorToPixel(v);
+}
+
+// The view's numbers are taken into locals and the rotation is decided once,
+// so the loop is the bare arithmetic of WorldToPixel.
+struct Mapping {
+    double worldX, worldY, scaleX, scaleY, pixelX, pixelY, cosSkew, sinSkew;
+};
+
+template <bool rotated, typename P>
+void MapPoints(const Mapping& m, const P* world, CPoint* pixels, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
-        double px = 0.0;
-        double py = 0.0;
-        cs.WorldToPixel(world[i].x, world[i].y, px, py);
-        pixels[i] = CPoint(ToPixel(px), ToPixel(py));
+        double dx = world[i].x - m.worldX;
+        double dy = world[i].y - m.worldY;
+        if constexpr (rotated) {
+            const double turned = dx * m.cosSkew + dy * m.sinSkew;
+            dy = dy * m.cosSkew - dx * m.sinSkew;
+            dx = turned;
+        }
+        pixels[i] = CPoint(FloorToPixel(dx * m.scaleX + 0.5 + m.pixelX),
+                           FloorToPixel(dy * m.scaleY + 0.5 + m.pixelY));
     }
-    return count;
 }
 
 }  // namespace
@@ -138,14 +157,27 @@ CRect CoordinateSystem::WorldToPixel(const Page& world) const {
     return CRect(ToPixel(p.x1), ToPixel(p.y2), ToPixel(p.x2), ToPixel(p.y1));
 }
 
+template <typename P>
+std::size_t CoordinateSystem::MapSpan(std::span<const P> world, std::span<CPoint> pixels) const {
+    const std::size_t count = std::min(world.size(), pixels.size());
+    const Mapping m{worldCentre_.x, worldCentre_.y, scale_.x, scale_.y,
+                    pixelCentre_.x, pixelCentre_.y, cosSkew_, sinSkew_};
+    if (IsRotated()) {
+        MapPoints<true>(m, world.data(), pixels.data(), count);
+    } else {
+        MapPoints<false>(m, world.data(), pixels.data(), count);
+    }
+    return count;
+}
+
 std::size_t CoordinateSystem::WorldToPixel(std::span<const Point> world,
                                            std::span<CPoint> pixels) const {
-    return MapPoints(*this, world, pixels);
+    return MapSpan(world, pixels);
 }
 
 std::size_t CoordinateSystem::WorldToPixel(std::span<const FloatPoint> world,
                                            std::span<CPoint> pixels) const {
-    return MapPoints(*this, world, pixels);
+    return MapSpan(world, pixels);
 }
 
 void CoordinateSystem::PixelToWorld(const Point& pixel, Point& world) const {

@@ -144,6 +144,8 @@ class VEXBASE_API CoordinateSystem {
 
   private:
     void ComputeScale();
+    template <typename P>
+    std::size_t MapSpan(std::span<const P> world, std::span<CPoint> pixels) const;
 
     Point scale_{1.0, -1.0, 0.0};
     Page world_{0.0, 0.0, 1.0, 1.0};
@@ -166,8 +168,11 @@ inline void CoordinateSystem::WorldToPixel(double x, double y, double& px, doubl
         dy = dy * cosSkew_ - dx * sinSkew_;
         dx = turned;
     }
-    px = std::floor(dx * scale_.x + 0.5 + pixelCentre_.x);
-    py = std::floor(dy * scale_.y + 0.5 + pixelCentre_.y);
+    // Both results before either store: px and py may alias this object.
+    const double pixelX = std::floor(dx * scale_.x + 0.5 + pixelCentre_.x);
+    const double pixelY = std::floor(dy * scale_.y + 0.5 + pixelCentre_.y);
+    px = pixelX;
+    py = pixelY;
 }
 
 inline void CoordinateSystem::PixelToWorld(double px, double py, double& x, double& y) const {

@@ -20,6 +20,9 @@
 
 namespace vex {
 
+class CDC;
+class CoordinateSystem;
+
 class VEXBASE_API Curve {
   public:
     Curve() = default;
@@ -72,6 +75,19 @@ class VEXBASE_API Curve {
     // raised to it (at most 36000 steps). An arc whose two angles are equal
     // gives its one point.
     std::vector<Point> GetAsPoints(double maxStep = 1.0) const;
+
+    // Drawing on a view: the arc mapped through cs and drawn on dc with its
+    // current pen, as an arc of the device context (a true curve, turning on
+    // the screen the way the arc turns in the world). Where the view would
+    // not keep it a circle or an ellipse (a rotated view with unequal
+    // scales) or the circle is too large to draw whole (a close view of a
+    // long arc), it is drawn as a polyline clipped to the view, with steps
+    // short enough that it strays less than a quarter of a pixel. False, with
+    // nothing drawn, when the arc lies off the pixel window or has no sweep.
+    bool DrawCurve(const CoordinateSystem& cs, CDC& dc) const;
+    // The arc and, unless it is the full circle, the two radii from its
+    // ends to the centre: the outline of the sector.
+    bool DrawSegment(const CoordinateSystem& cs, CDC& dc) const;
 
   private:
     bool AnglesEqual() const;

@@ -73,6 +73,12 @@ class VEXBASE_API FloatPoint {
 
     // "point: x, y, z" with six decimals each.
     CString ToString() const;
+
+    // The drawing members of Point, for the point widened to double.
+    bool DrawCross(const CoordinateSystem& cs, CDC& dc, int size = 3) const;
+    bool DrawSymbol(const CoordinateSystem& cs, CDC& dc, PointSymbol symbol, int size = 3) const;
+    bool DrawPixel(const CoordinateSystem& cs, CDC& dc, COLORREF colour) const;
+    bool DrawDot(const CoordinateSystem& cs, CDC& dc, int radius = 2) const;
 };
 
 }  // namespace vex

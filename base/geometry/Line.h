@@ -10,10 +10,15 @@
 #pragma once
 
 #include <base/Export.h>
+#include <base/framework/CString.h>
 #include <base/geometry/Extents3D.h>
+#include <base/geometry/Page.h>
 #include <base/geometry/Point.h>
 
 namespace vex {
+
+class CDC;
+class CoordinateSystem;
 
 class VEXBASE_API Line {
   public:
@@ -48,6 +53,22 @@ class VEXBASE_API Line {
     bool GetLineX(double y, double& x, bool& inside) const;
     // The same for a given x; false when the two x values are equal.
     bool GetLineY(double x, double& y, bool& inside) const;
+
+    // Drawing on a view. The line is cut to the world page `page` (when it
+    // is not the empty page) and to the pixel window of cs, then drawn on dc
+    // with its current pen: the ends that lie on the view land on the pixels
+    // cs.WorldToPixel gives them, and a line reaching far beyond the view
+    // is drawn only where it is seen. Each returns false, with nothing drawn,
+    // when no part of the line is left.
+    bool DrawLine(const CoordinateSystem& cs, CDC& dc, const Page& page = Page()) const;
+    // The label `text` beside the middle of the line's visible part, in the
+    // text colour and size of dc: above a line that runs more across than
+    // up, right of a steeper one.
+    bool PlaceText(const CoordinateSystem& cs, CDC& dc, const CString& text,
+                   const Page& page = Page()) const;
+    // DrawLine and PlaceText together.
+    bool AnnotateLine(const CoordinateSystem& cs, CDC& dc, const CString& text,
+                      const Page& page = Page()) const;
 };
 
 }  // namespace vex

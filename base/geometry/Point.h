@@ -11,10 +11,27 @@
 #include <base/Export.h>
 #include <base/framework/CPoint.h>
 #include <base/framework/CString.h>
+#include <base/framework/ColorRef.h>
 
 namespace vex {
 
+class CDC;
+class CoordinateSystem;
 class FloatPoint;
+
+// The marks of Point::DrawSymbol, each `size` pixels from the point to its
+// edge: an upright cross, a diagonal cross, the outline of a square, of a
+// circle, of a triangle standing on its base and of a diamond, and a disc
+// filled with the pen colour.
+enum PointSymbol : int {
+    SYMBOL_CROSS = 0,
+    SYMBOL_DIAGONAL_CROSS = 1,
+    SYMBOL_SQUARE = 2,
+    SYMBOL_CIRCLE = 3,
+    SYMBOL_TRIANGLE = 4,
+    SYMBOL_DIAMOND = 5,
+    SYMBOL_DOT = 6,
+};
 
 class VEXBASE_API Point {
   public:
@@ -83,6 +100,21 @@ class VEXBASE_API Point {
 
     // "point: x, y, z" with six decimals each.
     CString ToString() const;
+
+    // Drawing on a view: the point is mapped through cs (CoordinateSystem::
+    // WorldToPixel) and marked on dc with its current pen. Each returns false,
+    // with nothing drawn, when the mark would lie wholly off the pixel
+    // window. Sizes are in pixels, from 0 to 1000; the settings of dc are left
+    // as they were.
+    //
+    // An upright cross with arms of `size` pixels.
+    bool DrawCross(const CoordinateSystem& cs, CDC& dc, int size = 3) const;
+    // One of the PointSymbol marks; false for a value that is not one of them.
+    bool DrawSymbol(const CoordinateSystem& cs, CDC& dc, PointSymbol symbol, int size = 3) const;
+    // The one pixel of the point, in `colour` rather than the pen's.
+    bool DrawPixel(const CoordinateSystem& cs, CDC& dc, COLORREF colour) const;
+    // A disc of `radius` pixels filled with the pen colour.
+    bool DrawDot(const CoordinateSystem& cs, CDC& dc, int radius = 2) const;
 };
 
 }  // namespace vex

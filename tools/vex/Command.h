@@ -20,5 +20,6 @@ void AddDemoCommand(CLI::App& app, Action& run);
 void AddContourCommand(CLI::App& app, Action& run);
 void AddUnitsCommand(CLI::App& app, Action& run);
 void AddPortsCommand(CLI::App& app, Action& run);
+void AddDrawCommand(CLI::App& app, Action& run);
 
 }  // namespace vextool

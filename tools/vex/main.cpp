@@ -37,6 +37,7 @@ int main(int argc, char** argv) {
     vextool::AddDemoCommand(app, run);
     vextool::AddUnitsCommand(app, run);
     vextool::AddPortsCommand(app, run);
+    vextool::AddDrawCommand(app, run);
 
     try {
         std::vector<std::string> reversed(args.rbegin(), args.rend() - 1);
