@@ -16,6 +16,9 @@
 #include <base/framework/Framework.h>
 #include <base/geometry/Geometry.h>
 #include <base/strings/FormatString.h>
+#include <base/survey/TideFile.h>
+#include <base/survey/TideInterpolation.h>
+#include <base/survey/TidePlot.h>
 #include <base/time/Time.h>
 
 namespace vex {
