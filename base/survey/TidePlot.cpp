@@ -19,7 +19,8 @@ namespace vex {
 namespace {
 
 constexpr int kMarginLeft = 64;
-constexpr int kMarginRight = 24;
+// Room for half a date label centred on the last tick.
+constexpr int kMarginRight = 44;
 constexpr int kMarginTop = 32;
 constexpr int kMarginBottom = 58;
 constexpr int kFontSize = 12;
@@ -71,7 +72,8 @@ void HeightAxis(CDC& dc, const Scale& s) {
         dc.SetPen(1, kInk);
         dc.MoveTo(s.frame.left - 4, y);
         dc.LineTo(s.frame.left, y);
-        dc.TextOut(s.frame.left - 7, y + kFontSize / 3, FormatDouble(k * step, decimals, 0));
+        // + 0.0 turns the -0 of a tick just below zero into 0.
+        dc.TextOut(s.frame.left - 7, y + kFontSize / 3, FormatDouble(k * step + 0.0, decimals, 0));
     }
 }
 

@@ -34,6 +34,7 @@ int main(int argc, char** argv) {
     vextool::AddGeoCommand(app, run);
     vextool::AddNumberCommand(app, run);
     vextool::AddDemoCommand(app, run);
+    vextool::AddTideCommand(app, run);
 
     try {
         std::vector<std::string> reversed(args.rbegin(), args.rend() - 1);
