@@ -58,7 +58,8 @@ class VEXBASE_API TideFile {
     // still closed, when the file cannot be opened. The file is held only
     // while loading: a read failure ends the load with the pairs read so
     // far, and on Windows a brief network drop opens the file again, at
-    // most once per 15 s, and the load goes on where it stopped.
+    // most once per 15 s, and the load goes on where it stopped (POSIX
+    // reports no such drop: there every read failure ends the load).
     // Records whose time is NaN, or not at least 30000.0 after the last
     // kept time, are skipped; after a record at +infinity nothing more is
     // kept. Values are kept as stored, NaN and infinities included; a

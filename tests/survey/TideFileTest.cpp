@@ -5,13 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#ifndef _WIN32
-#include <signal.h>        // OS header: ignore SIGXFSZ in the child
-#include <sys/resource.h>  // OS header: setrlimit(RLIMIT_FSIZE)
-#include <sys/wait.h>      // OS header: waitpid
-#include <unistd.h>        // OS header: fork, _exit
-#endif
-
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -190,34 +183,6 @@ TEST(TideFile, AFailedSaveKeepsTheOldFileAndTheModifiedFlag) {
     EXPECT_EQ(test::ReadBytes(folder.Path("sub") / "t.tid"), Records({{100000, 1}, {200000, 2}}));
 }
 
-#ifndef _WIN32
-TEST(TideFile, ASaveCutShortMidwayKeepsTheOldFile) {
-    test::TempFolder folder;
-    const std::string original = Records({{100000, 1}});
-    test::WriteBytes(folder.Path("t.tid"), original);
-    const CString path = folder.File("t.tid");
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        // 4 KiB per file at most; the save needs 160 KiB, written in pieces.
-        signal(SIGXFSZ, SIG_IGN);
-        rlimit limit{4096, 4096};
-        if (setrlimit(RLIMIT_FSIZE, &limit) != 0) _exit(3);
-        TideFile tide;
-        if (!tide.FileOpen(path, false)) _exit(4);
-        for (int i = 0; i < 10000; ++i)
-            tide.AddTideValue(1e6 * i, i);
-        _exit(tide.FileSave() ? 1 : (tide.IsModified() ? 0 : 2));
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    ASSERT_TRUE(WIFEXITED(status));
-    EXPECT_EQ(WEXITSTATUS(status), 0) << "1: saved anyway, 2: flag cleared, 3/4: setup failed";
-    EXPECT_EQ(test::ReadBytes(folder.Path("t.tid")), original);
-    EXPECT_EQ(folder.Names(), std::set<std::string>{"t.tid"});
-}
-#endif
-
 TEST(TideFile, OpeningsAreCountedAndTheLastCloseReleasesTheValues) {
     test::TempFolder folder;
     test::WriteBytes(folder.Path("a.tid"), Records({{100000, 1}}));
@@ -368,47 +333,54 @@ TEST(TideFile, PositioningReadsFollowTheirTable) {
 }
 
 TEST(TideFile, ChangesFollowTheCurrentPosition) {
+    enum class Change { get, remove, update, add };
+    const struct {
+        Change change;
+        double time;
+        double value;
+        bool ok;
+        double current;  // the current pair's time afterwards; 0 = at end
+    } steps[] = {
+        {Change::get, 200, 0, true, 200},
+        {Change::remove, 200, 0, true, 300},  // the current pair: on to the next
+        {Change::remove, 100, 0, true, 300},  // another pair: the position stays
+        {Change::remove, 100, 0, false, 300},
+        {Change::get, 400, 0, true, 400},
+        {Change::remove, 400, 0, true, 0},     // the last pair: to the end
+        {Change::add, 500, 5, true, 0},        // adding never moves
+        {Change::update, 450, 9, false, 500},  // moved to the next pair, not changed
+        {Change::update, 600, 9, false, 0},
+        {Change::update, 300, 7, true, 300},
+        {Change::add, 250, 2.5, true, 300},
+        {Change::add, kNaN, 1, false, 300},  // a NaN time has no place
+    };
     TideFile tide;
     for (double t : {100.0, 200.0, 300.0, 400.0})
         tide.AddTideValue(t, t / 100);
-    double time = 0, value = 0;
-
-    // Deleting the current pair moves on to the next one.
-    ASSERT_TRUE(tide.GetTideValue(200, value));
-    EXPECT_TRUE(tide.IsModified());  // from the adds
-    EXPECT_TRUE(tide.DeleteTideValue(200));
-    ASSERT_TRUE(tide.GetCurrentTideValue(time, value));
-    EXPECT_EQ(time, 300);
-    // Deleting another pair leaves the position; a missing time is false.
-    EXPECT_TRUE(tide.DeleteTideValue(100));
-    EXPECT_FALSE(tide.DeleteTideValue(100));
-    ASSERT_TRUE(tide.GetCurrentTideValue(time, value));
-    EXPECT_EQ(time, 300);
-    // Deleting the last pair while on it puts the position at end.
-    ASSERT_TRUE(tide.GetTideValue(400, value));
-    EXPECT_TRUE(tide.DeleteTideValue(400));
-    EXPECT_FALSE(tide.GetCurrentTideValue(time, value));
-
-    // Updating a time not stored still moves to the next pair at or after it.
-    tide.AddTideValue(500, 5);
-    EXPECT_FALSE(tide.UpdateTideValue(450, 9));
-    ASSERT_TRUE(tide.GetCurrentTideValue(time, value));
-    EXPECT_EQ(time, 500);
-    EXPECT_EQ(value, 5);
-    EXPECT_FALSE(tide.UpdateTideValue(600, 9));
-    EXPECT_FALSE(tide.GetCurrentTideValue(time, value));
-    EXPECT_TRUE(tide.UpdateTideValue(300, 7));
-    ASSERT_TRUE(tide.GetCurrentTideValue(time, value));
-    EXPECT_EQ(value, 7);
-
-    // Adding keeps the position, replaces at an equal time, refuses NaN.
-    EXPECT_TRUE(tide.AddTideValue(300, 8));
-    EXPECT_TRUE(tide.AddTideValue(250, 2.5));
-    ASSERT_TRUE(tide.GetCurrentTideValue(time, value));
-    EXPECT_EQ(time, 300);
-    EXPECT_EQ(value, 8);
-    EXPECT_FALSE(tide.AddTideValue(kNaN, 1));
-    EXPECT_EQ(tide.GetNumValues(), 3);
+    for (const auto& s : steps) {
+        SCOPED_TRACE(testing::Message() << static_cast<int>(s.change) << " at " << s.time);
+        double value = 0;
+        bool ok = false;
+        switch (s.change) {
+            case Change::get:
+                ok = tide.GetTideValue(s.time, value);
+                break;
+            case Change::remove:
+                ok = tide.DeleteTideValue(s.time);
+                break;
+            case Change::update:
+                ok = tide.UpdateTideValue(s.time, s.value);
+                break;
+            case Change::add:
+                ok = tide.AddTideValue(s.time, s.value);
+                break;
+        }
+        EXPECT_EQ(ok, s.ok);
+        double current = 0;
+        if (!tide.GetCurrentTideValue(current, value)) current = 0;
+        EXPECT_EQ(current, s.current);
+    }
+    ExpectSeries(tide, {{250, 2.5}, {300, 7}, {500, 5}});
 }
 
 TEST(TideFile, CopiesTakeTheStateButNotThePosition) {
@@ -418,28 +390,18 @@ TEST(TideFile, CopiesTakeTheStateButNotThePosition) {
     tide.AddTideValue(100000, 1);
     double time = 0, value = 0;
     ASSERT_TRUE(tide.GetFirstTideValue(time, value));
-
     TideFile copy(tide);
-    EXPECT_FALSE(copy.GetCurrentTideValue(time, value));
-    EXPECT_EQ(copy.GetOpenCount(), 1);
-    EXPECT_TRUE(copy.IsModified());
-    EXPECT_EQ(copy.GetFileName(), tide.GetFileName());
-    EXPECT_EQ(copy.GetValues(), tide.GetValues());
-    // The copy's values are its own.
-    copy.AddTideValue(200000, 2);
-    EXPECT_EQ(tide.GetNumValues(), 1);
-
     TideFile assigned;
-    assigned = copy;
-    EXPECT_FALSE(assigned.GetCurrentTideValue(time, value));
-    EXPECT_EQ(assigned.GetNumValues(), 2);
-    TideFile moved(std::move(assigned));
-    EXPECT_EQ(moved.GetNumValues(), 2);
-    EXPECT_FALSE(moved.GetCurrentTideValue(time, value));
-    ASSERT_TRUE(moved.GetLastTideValue(time, value));
-    EXPECT_EQ(time, 200000);
-    EXPECT_TRUE(std::u16string_view(TideTimeFormats[0]) == u"HM");
-    EXPECT_TRUE(std::u16string_view(TideTimeFormats[1]) == u"HMS");
+    assigned = tide;
+    for (const TideFile* c : {&copy, &assigned}) {
+        EXPECT_FALSE(c->GetCurrentTideValue(time, value));
+        EXPECT_EQ(c->GetOpenCount(), 1);
+        EXPECT_TRUE(c->IsModified());
+        EXPECT_EQ(c->GetFileName(), tide.GetFileName());
+        EXPECT_EQ(c->GetValues(), tide.GetValues());
+    }
+    copy.AddTideValue(200000, 2);  // the copy's values are its own
+    EXPECT_EQ(tide.GetNumValues(), 1);
 }
 
 TEST(TideInterpolation, ReadsBetweenStoredPairsAndNotOutside) {

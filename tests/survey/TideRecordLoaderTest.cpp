@@ -77,58 +77,50 @@ void ExpectFirstRecords(const std::map<double, double>& values, int count) {
     }
 }
 
-TEST(TideRecordLoader, AFailedReadEndsTheLoadWithTheRecordsBeforeIt) {
-    SimulatedSource source;
-    source.failures[1] = ReadResult::failed;
-    std::map<double, double> values;
-    detail::LoadTideRecords(source, values);
-    EXPECT_TRUE(source.reopenedAt.empty());
-    ASSERT_FALSE(values.empty());
-    EXPECT_LT(static_cast<int>(values.size()), kRecords);
-    ExpectFirstRecords(values, static_cast<int>(values.size()));
-}
-
-TEST(TideRecordLoader, ANetworkDropReopensAndGoesOnWhereItStopped) {
-    SimulatedSource source;
-    source.failures[2] = ReadResult::networkDropped;
-    std::map<double, double> values;
-    detail::LoadTideRecords(source, values);
-    ASSERT_EQ(source.reopenedAt.size(), 1u);
-    EXPECT_GT(source.reopenedAt[0], 0u);
-    EXPECT_EQ(source.reopenedAt[0] % 16, 0u);  // at a record boundary
-    ExpectFirstRecords(values, kRecords);
-}
-
-TEST(TideRecordLoader, ReopensAtMostOncePerFifteenSeconds) {
-    struct Case {
+TEST(TideRecordLoader, FailuresEndTheLoadAndNetworkDropsReopenOncePerFifteenSeconds) {
+    constexpr auto failed = ReadResult::failed;
+    constexpr auto dropped = ReadResult::networkDropped;
+    const struct {
         const char* what;
-        double secondDropAtMs;  // the clock at the second drop; the first is at 1e6
+        std::map<int, ReadResult> failures;  // by the number of the read
+        double secondDropAtMs;               // the clock at read 3; 1e6 before
         bool reopenWorks;
         std::size_t reopenings;
         bool complete;
-    };
-    const Case cases[] = {
-        {"second drop 14.999 s later ends the load", 1e6 + 14999, true, 1, false},
-        {"second drop 15 s later reopens again", 1e6 + 15000, true, 2, true},
-        {"a reopening that fails ends the load", 1e6 + 20000, false, 1, false},
+    } cases[] = {
+        {"a failed read ends the load", {{1, failed}}, 1e6, true, 0, false},
+        {"a drop reopens and goes on", {{2, dropped}}, 1e6, true, 1, true},
+        {"a drop 14.999 s after the last ends",
+         {{1, dropped}, {3, dropped}},
+         1e6 + 14999,
+         true,
+         1,
+         false},
+        {"a drop 15 s after the last reopens",
+         {{1, dropped}, {3, dropped}},
+         1e6 + 15000,
+         true,
+         2,
+         true},
+        {"a reopening that fails ends the load", {{1, dropped}}, 1e6, false, 1, false},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         SimulatedSource source;
+        source.failures = c.failures;
         source.reopenWorks = c.reopenWorks;
-        source.failures[1] = ReadResult::networkDropped;
-        source.failures[3] = ReadResult::networkDropped;
-        source.clock[1] = 1e6;
         source.clock[3] = c.secondDropAtMs;
         std::map<double, double> values;
         detail::LoadTideRecords(source, values);
         EXPECT_EQ(source.reopenedAt.size(), c.reopenings);
-        if (c.complete) {
-            ExpectFirstRecords(values, kRecords);
-        } else {
+        for (const auto offset : source.reopenedAt)
+            EXPECT_EQ(offset % 16, 0u) << "reopened inside a record";
+        ASSERT_FALSE(values.empty());
+        if (c.complete)
+            EXPECT_EQ(static_cast<int>(values.size()), kRecords);
+        else
             EXPECT_LT(static_cast<int>(values.size()), kRecords);
-            ExpectFirstRecords(values, static_cast<int>(values.size()));
-        }
+        ExpectFirstRecords(values, static_cast<int>(values.size()));
     }
 }
 

@@ -72,20 +72,29 @@ int Show(const TideOptions& o) {
     int unusable = 0;
     const double* previous = nullptr;
     for (const auto& [time, height] : values) {
-        if (std::isfinite(height)) {
-            if (height < low) low = height, lowAt = time;
-            if (height > high) high = height, highAt = time;
-        } else {
+        if (!std::isfinite(height)) {
             ++unusable;
+        } else {
+            if (height < low) {
+                low = height;
+                lowAt = time;
+            }
+            if (height > high) {
+                high = height;
+                highAt = time;
+            }
         }
-        if (previous && time - *previous > gap) gap = time - *previous, gapFrom = *previous;
+        if (previous && time - *previous > gap) {
+            gap = time - *previous;
+            gapFrom = *previous;
+        }
         previous = &time;
     }
     if (low <= high) {
         PrintLine("lowest       " + Height(low) + " at " + UtcText(lowAt));
         PrintLine("highest      " + Height(high) + " at " + UtcText(highAt));
     }
-    if (unusable > 0) PrintLine(vex::Format("not a number %d heights", unusable));
+    if (unusable > 0) PrintLine(vex::Format("unusable     %d heights (NaN or infinite)", unusable));
     if (values.size() > 1 && std::isfinite(gap)) {
         PrintLine("largest gap  " + vex::TimeSpanToString(gap, true).ToUtf8() + " after " +
                   UtcText(gapFrom));
