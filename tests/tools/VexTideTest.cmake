@@ -51,7 +51,7 @@ if(NOT size EQUAL 6928)
   message(SEND_ERROR "harbour.tid is ${size} bytes, expected 433 records of 16")
 endif()
 vex(0 "433 loaded of 433" "" tide show harbour.tid)
-expect_stdout("first        2026-11-20 00:00:00 UTC" "last         2026-11-23 00:00:00 UTC"
+expect_stdout("first        2026-11-20 00:00:00" "last         2026-11-23 00:00:00"
               "lowest       0.126 at 2026-11-21 21:00:00"
               "highest      4.23 at 2026-11-21 14:40:00" "largest gap  00:10:00")
 

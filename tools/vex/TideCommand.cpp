@@ -50,8 +50,11 @@ std::optional<int> OpenTide(const std::string& path, vex::TideFile& tide) {
     return std::nullopt;
 }
 
+// As many decimals as the height carries; huge values (from a damaged
+// file) in exponent form rather than hundreds of digits.
 std::string Height(double h) {
-    return vex::FormatDouble(h, vex::GetDoublePrecision(h), 0).ToUtf8();
+    if (std::fabs(h) < 1e9) return vex::FormatDouble(h, vex::GetDoublePrecision(h), 0).ToUtf8();
+    return vex::FormatDouble(h, u"%.17g").ToUtf8();
 }
 
 int Show(const TideOptions& o) {
@@ -60,13 +63,13 @@ int Show(const TideOptions& o) {
     std::error_code ec;
     const auto bytes = fs::file_size(PathOf(o.file), ec);
     const auto& values = tide.GetValues();
-    PrintLine("file         " + o.file);
+    PrintLine("file         " + o.file + " (times in UTC)");
     PrintLine(vex::Format("records      %d loaded of %llu in the file (%llu bytes)",
                           tide.GetNumValues(), static_cast<unsigned long long>(bytes / 16),
                           static_cast<unsigned long long>(bytes)));
     if (values.empty()) return kSuccess;
-    PrintLine("first        " + UtcText(values.begin()->first) + " UTC");
-    PrintLine("last         " + UtcText(values.rbegin()->first) + " UTC");
+    PrintLine("first        " + UtcText(values.begin()->first));
+    PrintLine("last         " + UtcText(values.rbegin()->first));
     double low = INFINITY, high = -INFINITY, lowAt = 0, highAt = 0;
     double gap = 0, gapFrom = 0;
     int unusable = 0;
@@ -199,7 +202,7 @@ void AddTideCommand(CLI::App& app, Action& run) {
 
     CLI::App* exp = Sub(*tide, "export",
                         "Write the series as CSV: UTC time (ISO 8601), height; times outside "
-                        "1970-3000 as milliseconds",
+                        "1970-3000 as the time value in milliseconds",
                         "vex tide export harbour.tid -o harbour.csv", o, Export, run);
     exp->add_option("file", o->file, "tide file")->required();
     exp->add_option("-o,--output", o->output, "CSV file to write instead of standard output");

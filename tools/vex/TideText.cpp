@@ -23,7 +23,7 @@ bool Fields(double t, int (&f)[6], int& ms) {
 std::string Text(double t, const char* between, const char* after) {
     int f[6];
     int ms = 0;
-    if (!Fields(t, f, ms)) return vex::Format("%.3f", t);
+    if (!Fields(t, f, ms)) return vex::Format("%.17g%s", t, *after ? "" : " ms");
     std::string text =
         vex::Format("%04d-%02d-%02d%s%02d:%02d:%02d", f[0], f[1], f[2], between, f[3], f[4], f[5]);
     if (t != std::floor(t / 1000.0) * 1000.0) text += vex::Format(".%03d", ms);

@@ -11,9 +11,11 @@
 namespace vextool {
 
 // "YYYY-MM-DD HH:MM:SS" of a time value in UTC, with ".mmm" when it has a
-// fraction of a second; the number of milliseconds outside 1970-3000.
+// fraction of a second; outside 1970-3000 the time value itself
+// ("%.17g ms").
 std::string UtcText(double t);
-// The same as ISO 8601: "YYYY-MM-DDTHH:MM:SS[.mmm]Z".
+// The same as ISO 8601: "YYYY-MM-DDTHH:MM:SS[.mmm]Z"; outside 1970-3000
+// the bare number of milliseconds.
 std::string IsoUtcText(double t);
 
 // Which time forms a tide table may use.
