@@ -7,11 +7,14 @@
 #include <base/platform/TransientFileError.h>
 #include <base/survey/TideRecordLoader.h>
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <chrono>
 #include <climits>
 #include <cmath>
 #include <cstddef>
+#include <cstring>
 #include <utility>
 
 namespace vex {
@@ -131,10 +134,15 @@ bool TideFile::FileSave() {
     std::array<std::byte, 16 * kRecordsPerWrite> buffer;
     std::size_t used = 0;
     for (const auto& [time, value] : values_) {
-        const auto timeBytes = ToLittleEndian(time);
-        const auto valueBytes = ToLittleEndian(value);
-        std::copy(timeBytes.begin(), timeBytes.end(), buffer.begin() + used);
-        std::copy(valueBytes.begin(), valueBytes.end(), buffer.begin() + used + 8);
+        if constexpr (std::endian::native == std::endian::little) {
+            std::memcpy(buffer.data() + used, &time, 8);
+            std::memcpy(buffer.data() + used + 8, &value, 8);
+        } else {
+            const auto timeBytes = ToLittleEndian(time);
+            const auto valueBytes = ToLittleEndian(value);
+            std::copy(timeBytes.begin(), timeBytes.end(), buffer.begin() + used);
+            std::copy(valueBytes.begin(), valueBytes.end(), buffer.begin() + used + 8);
+        }
         used += 16;
         if (used == buffer.size()) {
             // A failed write spoils the save; Commit reports it.
