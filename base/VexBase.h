@@ -21,6 +21,9 @@
 #include <base/survey/LineData.h>
 #include <base/strings/FormatString.h>
 #include <base/survey/VesselContour.h>
+#include <base/survey/TideFile.h>
+#include <base/survey/TideInterpolation.h>
+#include <base/survey/TidePlot.h>
 #include <base/time/Time.h>
 #include <base/units/Units.h>
 

@@ -21,5 +21,6 @@ void AddContourCommand(CLI::App& app, Action& run);
 void AddUnitsCommand(CLI::App& app, Action& run);
 void AddPortsCommand(CLI::App& app, Action& run);
 void AddDrawCommand(CLI::App& app, Action& run);
+void AddTideCommand(CLI::App& app, Action& run);
 
 }  // namespace vextool

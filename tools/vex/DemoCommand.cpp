@@ -1,17 +1,21 @@
 // vex demo: a short tour on the built-in sample settings of a survey
 // vessel: show, diff, patch, seal and verify, a dredger's contour, then a
-// position, a depth in feet and the time.
+// position, a depth in feet and the time, and a tide table made into a tide
+// file and plotted.
 #include "Command.h"
 #include "Console.h"
 #include "EmbeddedSamples.h"
 #include "ExitCode.h"
 #include "IniFiles.h"
+#include "TideText.h"
 
 #include <base/VexBase.h>
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <memory>
+#include <vector>
 
 namespace vextool {
 namespace {
@@ -38,6 +42,41 @@ int CountItems(const vex::FileObject& file) {
 std::string PathText(const fs::path& p) {
     const std::u8string u8 = p.u8string();
     return std::string(u8.begin(), u8.end());
+}
+
+// Three days of a harbour's tide: imported, read back, read between its
+// stored times and plotted.
+int TideTour(const fs::path& folder) {
+    std::ifstream in(folder / "tide.txt", std::ios::binary);
+    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::vector<std::pair<double, double>> rows;
+    int badLine = 0;
+    if (!ParseTideTable(text, TimeForm::either, rows, badLine))
+        return Fail(kInputOutput, "tide.txt:" + std::to_string(badLine), "malformed line");
+    const std::string path = PathText(folder / "tide.tid");
+    vex::TideFile tide;
+    if (!tide.FileOpen(CString::FromUtf8(path), true))
+        return Fail(kInputOutput, path, "cannot be created");
+    for (const auto& [time, height] : rows)
+        tide.AddTideValue(time, height);
+    tide.FileClose(true);
+    if (!tide.FileOpen(CString::FromUtf8(path), false))
+        return Fail(kInputOutput, path, "cannot be read back");
+    double first = 0, last = 0;
+    tide.GetTimeSpan(first, last);
+    PrintLine(vex::Format("%d values from ", tide.GetNumValues()) + UtcText(first) + " to " +
+              UtcText(last) + " UTC");
+    const double when = first + 5 * 60000.0;  // between two stored times
+    double height = 0;
+    if (vex::InterpolateTide(tide, when, height))
+        PrintLine("height at " + UtcText(when) + ": " + vex::FormatDouble(height, 3, 0).ToUtf8() +
+                  " m (interpolated)");
+    vex::SvgDC dc(900, 480);
+    vex::DrawTideCurve(dc, tide, vex::CRect(0, 0, 900, 480), u"Sample tide");
+    const std::string svg = PathText(folder / "tide.svg");
+    if (!dc.Save(CString::FromUtf8(svg))) return Fail(kInputOutput, svg, "cannot be written");
+    PrintLine("plot written to tide.svg");
+    return kSuccess;
 }
 
 int RunDemo(bool keep) {
@@ -135,6 +174,9 @@ int RunDemo(bool keep) {
 
     Heading("vex number 12.84 --feet-mode 4 --decimals 1 (a draught in feet and inches)");
     PrintLine(vex::FormatDouble(12.84, 1, 4));
+
+    Heading("vex tide import tide.txt -o tide.tid; vex tide plot tide.tid -o tide.svg");
+    if (const int tide = TideTour(folder); tide != kSuccess) return tide;
 
     Heading("vex time");
     const double now = vex::CExTime::GetCurTime();

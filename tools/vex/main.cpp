@@ -38,6 +38,7 @@ int main(int argc, char** argv) {
     vextool::AddUnitsCommand(app, run);
     vextool::AddPortsCommand(app, run);
     vextool::AddDrawCommand(app, run);
+    vextool::AddTideCommand(app, run);
 
     try {
         std::vector<std::string> reversed(args.rbegin(), args.rend() - 1);
