@@ -11,6 +11,7 @@
 #pragma once
 
 #include <base/Export.h>
+#include <base/colour/ColorTable.h>
 #include <base/config/Config.h>
 #include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
