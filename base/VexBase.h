@@ -13,6 +13,7 @@
 #include <base/Export.h>
 #include <base/colour/ColorTable.h>
 #include <base/colour/CptFile.h>
+#include <base/colour/NamedPalettes.h>
 #include <base/config/Config.h>
 #include <base/errors/Errors.h>
 #include <base/framework/Framework.h>
