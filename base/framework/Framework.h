@@ -6,6 +6,7 @@
 #include <base/framework/AtomicFile.h>
 #include <base/framework/ByteStream.h>
 #include <base/framework/CArchive.h>
+#include <base/framework/CDC.h>
 #include <base/framework/CFile.h>
 #include <base/framework/CPoint.h>
 #include <base/framework/CRect.h>
@@ -22,5 +23,6 @@
 #include <base/framework/PaletteEntry.h>
 #include <base/framework/Scan.h>
 #include <base/framework/StringResources.h>
+#include <base/framework/SvgDC.h>
 #include <base/framework/TextEncoding.h>
 #include <base/framework/TextEncodingType.h>

@@ -12,5 +12,6 @@
 #include <base/geometry/Intersections.h>
 #include <base/geometry/Line.h>
 #include <base/geometry/Math.h>
+#include <base/geometry/Page.h>
 #include <base/geometry/Point.h>
 #include <base/geometry/Triangle.h>
