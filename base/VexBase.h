@@ -11,6 +11,7 @@
 #pragma once
 
 #include <base/Export.h>
+#include <base/colour/ColorLegend.h>
 #include <base/colour/ColorTable.h>
 #include <base/colour/CptFile.h>
 #include <base/colour/NamedPalettes.h>
