@@ -39,9 +39,12 @@ bool DrawColorLegend(CDC& dc, const ColorTable& table, const CRect& area,
     };
     const int right = static_cast<int>(left) + barWidth;
     dc.SetNullPen();
+    // Each band reaches one row into the next, which the next band paints
+    // over: renderers that smooth edges leave no pale seam between them.
     for (int b = 0; b < bands; ++b) {
         dc.SetBrush(b == 0 ? table.LowColor() : table.EntryColor(b - 1));
-        dc.Rectangle(static_cast<int>(left), edge(b + 1), right, edge(b));
+        const int bandTop = b + 1 < bands ? edge(b + 1) - 1 : edge(b + 1);
+        dc.Rectangle(static_cast<int>(left), bandTop, right, edge(b));
     }
     dc.SetPen(1, style.frameColor);
     dc.SetNullBrush();

@@ -17,5 +17,6 @@ void AddTimeCommand(CLI::App& app, Action& run);
 void AddGeoCommand(CLI::App& app, Action& run);
 void AddNumberCommand(CLI::App& app, Action& run);
 void AddDemoCommand(CLI::App& app, Action& run);
+void AddColoursCommand(CLI::App& app, Action& run);
 
 }  // namespace vextool

@@ -1,6 +1,6 @@
 // vex demo: a short tour on the built-in sample settings of a survey
 // vessel: show, diff, patch, seal and verify, then a position, a depth in
-// feet and the time.
+// feet, depth and dredge-difference colours and the time.
 #include "Command.h"
 #include "Console.h"
 #include "EmbeddedSamples.h"
@@ -119,6 +119,24 @@ int RunDemo(bool keep) {
 
     Heading("vex number 12.84 --feet-mode 4 --decimals 1 (a draught in feet and inches)");
     PrintLine(vex::FormatDouble(12.84, 1, 4));
+
+    Heading("vex colours lookup depth-colours.ini -- -25 -14 -3.5 and dredge-difference.ini");
+    for (const char* name : {"depth-colours.ini", "dredge-difference.ini"}) {
+        vex::FileObject colourFile;
+        if (auto failed = LoadSettings(PathText(folder / name), colourFile)) return *failed;
+        vex::ColorTable colours;
+        if (!colours.FileOpen(colourFile)) {
+            return Fail(kInputOutput, PathText(folder / name), "not a colour table");
+        }
+        for (double depth : {-25.0, -14.0, -3.5, -0.3, 0.1, 0.4}) {
+            const vex::COLORREF c = colours.GetColor(depth);
+            const CString band = colours.GetName(depth);
+            PrintLine(std::string(name) + "  " + vex::FormatDouble(depth, 1, 0).ToUtf8() +
+                      vex::Format("  #%02X%02X%02X", vex::GetRValue(c), vex::GetGValue(c),
+                                  vex::GetBValue(c)) +
+                      (band.IsEmpty() ? "" : "  " + band.ToUtf8()));
+        }
+    }
 
     Heading("vex time");
     const double now = vex::CExTime::GetCurTime();

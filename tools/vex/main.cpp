@@ -33,6 +33,7 @@ int main(int argc, char** argv) {
     vextool::AddTimeCommand(app, run);
     vextool::AddGeoCommand(app, run);
     vextool::AddNumberCommand(app, run);
+    vextool::AddColoursCommand(app, run);
     vextool::AddDemoCommand(app, run);
 
     try {
