@@ -134,6 +134,7 @@ bool ColorTable::AddEntry(double value, COLORREF color, bool locked, CString nam
     m_colors.push_back(color);
     m_locks.push_back(locked);
     m_names.push_back(std::move(name));
+    UpdateIndexScale();
     return true;
 }
 
@@ -143,6 +144,7 @@ int ColorTable::InsertEntry(double value, COLORREF color, bool locked) {
     m_colors.insert(m_colors.begin() + at, color);
     m_locks.insert(m_locks.begin() + at, locked);
     m_names.insert(m_names.begin() + at, CString());
+    UpdateIndexScale();
     return static_cast<int>(at);
 }
 
@@ -152,6 +154,7 @@ void ColorTable::RemoveEntry(int index) {
     m_colors.erase(m_colors.begin() + index);
     m_locks.erase(m_locks.begin() + index);
     m_names.erase(m_names.begin() + index);
+    UpdateIndexScale();
 }
 
 void ColorTable::ClearEntries() {
@@ -159,6 +162,7 @@ void ColorTable::ClearEntries() {
     m_colors.clear();
     m_locks.clear();
     m_names.clear();
+    UpdateIndexScale();
 }
 
 int ColorTable::NumLocked() const {
@@ -197,41 +201,29 @@ bool ColorTable::SetEntryValue(int index, double value) {
     if (i > 0 && !(m_values[i - 1] < value)) return false;
     if (i + 1 < m_values.size() && !(value < m_values[i + 1])) return false;
     m_values[i] = value;
+    UpdateIndexScale();
     return true;
 }
 
 // --- lookups -------------------------------------------------------------------
 
-// Depth tables are mostly evenly spaced, so the entry is first guessed from
-// where the value lies between the first and last start values; a wrong
-// guess still narrows the binary search to one side of it.
-int ColorTable::FindEntry(double value) const {
-    const double* v = m_values.data();
+// Kept with the values so that a lookup multiplies instead of dividing. The
+// quarter points tell whether the first guess can land: when one of them is
+// more than two entries from where an even table would have it, the table
+// is searched without a guess (scale 0).
+void ColorTable::UpdateIndexScale() {
     const std::size_t size = m_values.size();
-    if (size == 0 || !(v[0] <= value)) return -1;  // also NaN
+    m_indexScale = 0;
+    if (size < 2) return;
     const std::size_t n = size - 1;
-    if (value >= v[n]) return static_cast<int>(n);
-    // From here v[0] <= value < v[n], so the answer lies in [0, n - 1].
-    const double estimate = (value - v[0]) * static_cast<double>(n) / (v[n] - v[0]);
-    const std::size_t g = estimate >= 0 && estimate < static_cast<double>(n)
-                              ? static_cast<std::size_t>(estimate)
-                              : n - 1;
-    if (v[g + 1] > value) {
-        if (value >= v[g]) return static_cast<int>(g);
-        return static_cast<int>(std::upper_bound(v, v + g, value) - v) - 1;
+    const double span = m_values[n] - m_values[0];
+    if (!(span > 0) || !std::isfinite(span)) return;
+    const double scale = static_cast<double>(n) / span;
+    for (const std::size_t i : {n / 4, n / 2, n - n / 4}) {
+        const double guess = (m_values[i] - m_values[0]) * scale;
+        if (std::abs(guess - static_cast<double>(i)) > 2.0) return;
     }
-    if (v[g + 2] > value) return static_cast<int>(g + 1);  // g + 2 <= n here
-    return static_cast<int>(std::upper_bound(v + g + 2, v + n, value) - v) - 1;
-}
-
-COLORREF ColorTable::GetColor(double value) const {
-    const int i = FindEntry(value);
-    return i < 0 ? m_lowColor : m_colors[static_cast<std::size_t>(i)];
-}
-
-CString ColorTable::GetName(double value) const {
-    const int i = FindEntry(value);
-    return i < 0 ? m_lowColorName : m_names[static_cast<std::size_t>(i)];
+    m_indexScale = scale;
 }
 
 int ColorTable::GetColorRange(double min, double max, std::vector<COLORREF>& colors,
@@ -406,6 +398,7 @@ void ColorTable::SetLogRange(double maxValue, int numColors, bool rainbow) {
     SetRange(0.0, top, top / (numColors - 2), rainbow ? kBlue : kBlack, rainbow ? kRed : kWhite);
     for (double& v : m_values)
         v = std::pow(10.0, v);
+    UpdateIndexScale();
 }
 
 void ColorTable::MakeFileColors(int numFiles, COLORREF from, COLORREF to) {

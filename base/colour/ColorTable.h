@@ -21,6 +21,8 @@
 #include <base/framework/ColorRef.h>
 #include <base/framework/PaletteEntry.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -84,9 +86,16 @@ class VEXBASE_API ColorTable {
     // --- lookups ----------------------------------------------------------------
     // The colour of the last entry whose value is <= value; LowColor below
     // the first entry, for an empty table and for NaN.
-    COLORREF GetColor(double value) const;
+    // Inline: displays call it for every cell.
+    COLORREF GetColor(double value) const {
+        const int i = FindEntry(value);
+        return i < 0 ? m_lowColor : m_colors[static_cast<std::size_t>(i)];
+    }
     // The same search returning the entry's name (LowColorName below).
-    CString GetName(double value) const;
+    CString GetName(double value) const {
+        const int i = FindEntry(value);
+        return i < 0 ? m_lowColorName : m_names[static_cast<std::size_t>(i)];
+    }
     // The bands that cover [min, max]: colors[i] starts at values[i] (the
     // last value is cut to max). Both outputs are cleared first. A table
     // starting above min repeats its (LowColor, min) pair at the front, which
@@ -187,6 +196,7 @@ class VEXBASE_API ColorTable {
     void InsertRgb3Ramp(double min, double step, int n, COLORREF from, COLORREF mid, COLORREF to);
     // The index of the last entry whose value is <= value, -1 for none.
     int FindEntry(double value) const;
+    void UpdateIndexScale();
 
     COLORREF m_maxUnderDredgeColor;
     COLORREF m_minUnderDredgeColor;
@@ -208,6 +218,33 @@ class VEXBASE_API ColorTable {
     std::vector<CString> m_names;
     CString m_lowColorName;
     bool m_hasOpened = false;
+    // (number of entries - 1) / (last value - first value), the slope of
+    // FindEntry's first guess; 0 when the table is too uneven for guessing.
+    double m_indexScale = 0;
 };
+
+// Depth tables are mostly evenly spaced, so the entry is first guessed from
+// where the value lies between the first and last start values; a wrong
+// guess still narrows the binary search to one side of it. On tables far
+// from even (logarithmic ones) the guess is nearly always wrong and costs
+// more than it saves, so there the search runs over the whole table.
+inline int ColorTable::FindEntry(double value) const {
+    const double* v = m_values.data();
+    const std::size_t size = m_values.size();
+    if (size == 0 || !(v[0] <= value)) return -1;  // also NaN
+    const std::size_t n = size - 1;
+    if (value >= v[n]) return static_cast<int>(n);
+    // From here v[0] <= value < v[n], so the answer lies in [0, n - 1].
+    if (!(m_indexScale > 0)) return static_cast<int>(std::upper_bound(v, v + n, value) - v) - 1;
+    const double estimate = (value - v[0]) * m_indexScale;
+    const std::size_t g = estimate >= 0 && estimate < static_cast<double>(n)
+                              ? static_cast<std::size_t>(estimate)
+                              : n - 1;
+    if (v[g + 1] > value) {
+        if (value >= v[g]) return static_cast<int>(g);
+        return static_cast<int>(std::upper_bound(v, v + g, value) - v) - 1;
+    }
+    return static_cast<int>(std::upper_bound(v + g + 1, v + n, value) - v) - 1;
+}
 
 }  // namespace vex
