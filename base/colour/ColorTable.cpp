@@ -308,15 +308,30 @@ void ColorTable::SetRangeRGB(double min, double max, int numColors, COLORREF fro
     SetRangeRGB(min, max, StepForCount(min, max, numColors), from, to);
 }
 
-void ColorTable::SetRangeRGB(double min, double max, double step, COLORREF from, COLORREF to) {
+// The start of the RGB generators: a degenerate range gives the one entry
+// (min, to); false when nothing more is to be added.
+bool ColorTable::StartRgbRamp(double min, double max, double step, COLORREF from, COLORREF to,
+                              int& count) {
     RemoveUnlocked();
     m_lowColor = from;
     if (step == 0 || min == max) {
         InsertEntry(min, to, false);
-        return;
+        return false;
     }
+    return RampCount(min, max, step, count);
+}
+
+// The start of the merging generators; false when nothing is to be added.
+bool ColorTable::StartMerge(double min, double max, double step, COLORREF from, int& count) {
+    if (step == 0 || min == max) return false;
+    RemoveInside(min, max);
+    if (m_values.empty() || m_values[0] >= min) m_lowColor = from;
+    return RampCount(min, max, step, count);
+}
+
+void ColorTable::SetRangeRGB(double min, double max, double step, COLORREF from, COLORREF to) {
     int count = 0;
-    if (!RampCount(min, max, step, count)) return;
+    if (!StartRgbRamp(min, max, step, from, to, count)) return;
     const int n = count + 2;
     if (n < 3) return;
     for (int i = 0; i <= n - 2; ++i) {
@@ -331,15 +346,10 @@ void ColorTable::SetRangeRGB3(double min, double max, int numColors, COLORREF fr
 
 void ColorTable::SetRangeRGB3(double min, double max, double step, COLORREF from, COLORREF mid,
                               COLORREF to) {
-    RemoveUnlocked();
-    m_lowColor = from;
-    if (step == 0 || min == max) {
-        InsertEntry(min, to, false);
-        return;
-    }
     int count = 0;
-    if (!RampCount(min, max, step, count)) return;
-    InsertRgb3Ramp(min, step, count + 2, from, mid, to);
+    if (StartRgbRamp(min, max, step, from, to, count)) {
+        InsertRgb3Ramp(min, step, count + 2, from, mid, to);
+    }
 }
 
 // The two RGB ramps of the three-colour generators over n - 2 entries: the
@@ -363,11 +373,8 @@ void ColorTable::AddRange(double min, double max, int numColors, COLORREF from, 
 
 void ColorTable::AddRange(double min, double max, double step, COLORREF from, COLORREF to,
                           bool rgb) {
-    if (step == 0 || min == max) return;
-    RemoveInside(min, max);
-    if (m_values.empty() || m_values[0] >= min) m_lowColor = from;
     int count = 0;
-    if (!RampCount(min, max, step, count) || count < 1) return;
+    if (!StartMerge(min, max, step, from, count) || count < 1) return;
     if (!rgb) {
         InsertHueRamp(min, step, count, from, to);
         return;
@@ -384,12 +391,9 @@ void ColorTable::AddRange3(double min, double max, int numColors, COLORREF from,
 
 void ColorTable::AddRange3(double min, double max, double step, COLORREF from, COLORREF mid,
                            COLORREF to) {
-    if (step == 0 || min == max) return;
-    RemoveInside(min, max);
-    if (m_values.empty() || m_values[0] >= min) m_lowColor = from;
     int count = 0;
-    if (!RampCount(min, max, step, count)) return;
-    InsertRgb3Ramp(min, step, count + 2, from, mid, to);
+    if (StartMerge(min, max, step, from, count))
+        InsertRgb3Ramp(min, step, count + 2, from, mid, to);
 }
 
 void ColorTable::SetLogRange(double maxValue, int numColors, bool rainbow) {

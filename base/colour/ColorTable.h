@@ -192,6 +192,8 @@ class VEXBASE_API ColorTable {
   private:
     void RemoveUnlocked();
     void RemoveInside(double min, double max);
+    bool StartRgbRamp(double min, double max, double step, COLORREF from, COLORREF to, int& count);
+    bool StartMerge(double min, double max, double step, COLORREF from, int& count);
     void InsertHueRamp(double min, double step, int count, COLORREF from, COLORREF to);
     void InsertRgb3Ramp(double min, double step, int n, COLORREF from, COLORREF mid, COLORREF to);
     // The index of the last entry whose value is <= value, -1 for none.

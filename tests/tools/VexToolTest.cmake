@@ -5,32 +5,7 @@ file(MAKE_DIRECTORY ${WORK})
 file(COPY ${SAMPLES}/vessel.ini ${SAMPLES}/vessel-v2.ini DESTINATION ${WORK})
 set(failures 0)
 
-# vex(<expected exit> <stdout must contain> <stderr must contain> args...)
-function(vex expected_rc stdout_part stderr_part)
-  execute_process(COMMAND ${EMULATOR} ${VEX} ${ARGN} WORKING_DIRECTORY ${WORK}
-                  RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
-  set(ok TRUE)
-  if(NOT rc EQUAL expected_rc)
-    set(ok FALSE)
-  endif()
-  if(NOT stdout_part STREQUAL "")
-    string(FIND "${out}" "${stdout_part}" at)
-    if(at EQUAL -1)
-      set(ok FALSE)
-    endif()
-  endif()
-  if(NOT stderr_part STREQUAL "")
-    string(FIND "${err}" "${stderr_part}" at)
-    if(at EQUAL -1)
-      set(ok FALSE)
-    endif()
-  endif()
-  if(NOT ok)
-    message(SEND_ERROR "vex ${ARGN}: exit ${rc} (expected ${expected_rc})\n"
-                       "stdout: ${out}\nstderr: ${err}\n"
-                       "expected stdout with '${stdout_part}', stderr with '${stderr_part}'")
-  endif()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/VexRun.cmake)
 
 file(WRITE ${WORK}/nosections.ini "; only a comment\r\nkey = value\r\n")
 # Binary garbage: the program file itself.
