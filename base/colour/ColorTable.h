@@ -197,7 +197,31 @@ class VEXBASE_API ColorTable {
     void InsertHueRamp(double min, double step, int count, COLORREF from, COLORREF to);
     void InsertRgb3Ramp(double min, double step, int n, COLORREF from, COLORREF mid, COLORREF to);
     // The index of the last entry whose value is <= value, -1 for none.
-    int FindEntry(double value) const;
+    // Defined in the class so that it is inline in every build, also where
+    // the class is imported from a DLL.
+    // Depth tables are mostly evenly spaced, so the entry is first guessed from
+    // where the value lies between the first and last start values; a wrong
+    // guess still narrows the binary search to one side of it. On tables far
+    // from even (logarithmic ones) the guess is nearly always wrong and costs
+    // more than it saves, so there the search runs over the whole table.
+    int FindEntry(double value) const {
+        const double* v = m_values.data();
+        const std::size_t size = m_values.size();
+        if (size == 0 || !(v[0] <= value)) return -1;  // also NaN
+        const std::size_t n = size - 1;
+        if (value >= v[n]) return static_cast<int>(n);
+        // From here v[0] <= value < v[n], so the answer lies in [0, n - 1].
+        if (!(m_indexScale > 0)) return static_cast<int>(std::upper_bound(v, v + n, value) - v) - 1;
+        const double estimate = (value - v[0]) * m_indexScale;
+        const std::size_t g = estimate >= 0 && estimate < static_cast<double>(n)
+                                  ? static_cast<std::size_t>(estimate)
+                                  : n - 1;
+        if (v[g + 1] > value) {
+            if (value >= v[g]) return static_cast<int>(g);
+            return static_cast<int>(std::upper_bound(v, v + g, value) - v) - 1;
+        }
+        return static_cast<int>(std::upper_bound(v + g + 1, v + n, value) - v) - 1;
+    }
     void UpdateIndexScale();
 
     COLORREF m_maxUnderDredgeColor;
@@ -224,29 +248,5 @@ class VEXBASE_API ColorTable {
     // FindEntry's first guess; 0 when the table is too uneven for guessing.
     double m_indexScale = 0;
 };
-
-// Depth tables are mostly evenly spaced, so the entry is first guessed from
-// where the value lies between the first and last start values; a wrong
-// guess still narrows the binary search to one side of it. On tables far
-// from even (logarithmic ones) the guess is nearly always wrong and costs
-// more than it saves, so there the search runs over the whole table.
-inline int ColorTable::FindEntry(double value) const {
-    const double* v = m_values.data();
-    const std::size_t size = m_values.size();
-    if (size == 0 || !(v[0] <= value)) return -1;  // also NaN
-    const std::size_t n = size - 1;
-    if (value >= v[n]) return static_cast<int>(n);
-    // From here v[0] <= value < v[n], so the answer lies in [0, n - 1].
-    if (!(m_indexScale > 0)) return static_cast<int>(std::upper_bound(v, v + n, value) - v) - 1;
-    const double estimate = (value - v[0]) * m_indexScale;
-    const std::size_t g = estimate >= 0 && estimate < static_cast<double>(n)
-                              ? static_cast<std::size_t>(estimate)
-                              : n - 1;
-    if (v[g + 1] > value) {
-        if (value >= v[g]) return static_cast<int>(g);
-        return static_cast<int>(std::upper_bound(v, v + g, value) - v) - 1;
-    }
-    return static_cast<int>(std::upper_bound(v + g + 1, v + n, value) - v) - 1;
-}
 
 }  // namespace vex
