@@ -1,7 +1,7 @@
 // The built-in palettes: published end and middle colours, even lightness,
-// reversal, and use as colour-table sources.
-#include <base/colour/ColorTable.h>
+// and reversal.
 #include <base/colour/NamedPalettes.h>
+#include <base/framework/ColorRef.h>
 
 #include <gtest/gtest.h>
 
@@ -54,14 +54,6 @@ TEST(NamedPalettes, LightnessRunsEvenly) {
         EXPECT_GT(Luminance(At(*vik, i)), Luminance(At(*vik, i - 16)));
         EXPECT_GT(Luminance(At(*vik, 255 - i)), Luminance(At(*vik, 255 - i + 16)));
     }
-}
-
-TEST(NamedPalettes, FeedColourTables) {
-    ColorTable table;
-    table.SetColorPalette(-1.0, 1.0, GetNamedPalette(u"vik"));
-    ASSERT_EQ(table.NumEntries(), 255);
-    EXPECT_EQ(table.LowColor(), RGB(0x00, 0x12, 0x61));
-    EXPECT_EQ(table.GetColor(5.0), At(*GetNamedPalette(u"vik"), 254));
 }
 
 }  // namespace

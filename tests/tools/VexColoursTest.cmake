@@ -11,7 +11,6 @@ vex(0 "13 entries, 1 locked" "" colours show depth-colours.ini --colour never)
 vex(0 "deeper than 24 m" "" colours show depth-colours.ini)
 vex(0 "48;2;74;255;0m    " "" colours show depth-colours.ini --colour always)
 vex(0 "-14   74, 255,   0  #4AFF00  design depth" "" colours lookup depth-colours.ini -- -14)
-vex(0 "-13.9   74, 255,   0  #4AFF00  design depth" "" colours lookup depth-colours.ini -- -13.9)
 vex(0 "-24.5    0,   0, 255  #0000FF  deeper than 24 m" "" colours lookup depth-colours.ini -- -24.5)
 vex(0 "dredge difference: under-dredge limit 0.3, over-dredge limit -0.2" ""
     colours show dredge-difference.ini)
