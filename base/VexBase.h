@@ -11,6 +11,10 @@
 #pragma once
 
 #include <base/Export.h>
+#include <base/colour/ColorLegend.h>
+#include <base/colour/ColorTable.h>
+#include <base/colour/CptFile.h>
+#include <base/colour/NamedPalettes.h>
 #include <base/config/Config.h>
 #include <base/data/Data.h>
 #include <base/errors/Errors.h>

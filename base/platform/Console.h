@@ -18,5 +18,8 @@ VEXBASE_API std::vector<std::string> CommandLineUtf8(int argc, char** argv);
 VEXBASE_API void UseUtf8Console();
 // Switches standard input to binary mode (no CR LF translation on Windows).
 VEXBASE_API void SetBinaryStdin();
+// True when standard output is a terminal that takes ANSI escape sequences
+// (on Windows a console, switched to processing them); false for files and pipes.
+VEXBASE_API bool StdoutTakesEscapes();
 
 }  // namespace vex::platform

@@ -1,5 +1,7 @@
 #include <base/platform/Console.h>
 
+#include <unistd.h>
+
 namespace vex::platform {
 
 std::vector<std::string> CommandLineUtf8(int argc, char** argv) {
@@ -12,5 +14,9 @@ std::vector<std::string> CommandLineUtf8(int argc, char** argv) {
 void UseUtf8Console() {}
 
 void SetBinaryStdin() {}
+
+bool StdoutTakesEscapes() {
+    return isatty(STDOUT_FILENO) == 1;
+}
 
 }  // namespace vex::platform

@@ -35,4 +35,11 @@ void SetBinaryStdin() {
     _setmode(_fileno(stdin), _O_BINARY);
 }
 
+bool StdoutTakesEscapes() {
+    HANDLE out = GetStdHandle(STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    if (out == INVALID_HANDLE_VALUE || !GetConsoleMode(out, &mode)) return false;
+    return SetConsoleMode(out, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
 }  // namespace vex::platform

@@ -5,7 +5,7 @@ file(MAKE_DIRECTORY ${WORK})
 file(COPY ${SAMPLES}/vessel.ini ${SAMPLES}/vessel-v2.ini DESTINATION ${WORK})
 set(failures 0)
 
-include(${CMAKE_CURRENT_LIST_DIR}/VexCheck.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/VexRun.cmake)
 
 file(WRITE ${WORK}/nosections.ini "; only a comment\r\nkey = value\r\n")
 # Binary garbage: the program file itself.

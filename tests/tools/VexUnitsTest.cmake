@@ -4,7 +4,7 @@ file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
 file(COPY ${SAMPLES}/vessel.ini DESTINATION ${WORK})
 
-include(${CMAKE_CURRENT_LIST_DIR}/VexCheck.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/VexRun.cmake)
 
 # The catalogue, by group.
 vex(0 "Depth Units" "" units list)

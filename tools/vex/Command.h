@@ -22,5 +22,6 @@ void AddUnitsCommand(CLI::App& app, Action& run);
 void AddPortsCommand(CLI::App& app, Action& run);
 void AddDrawCommand(CLI::App& app, Action& run);
 void AddTideCommand(CLI::App& app, Action& run);
+void AddColoursCommand(CLI::App& app, Action& run);
 
 }  // namespace vextool

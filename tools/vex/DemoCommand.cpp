@@ -1,7 +1,7 @@
 // vex demo: a short tour on the built-in sample settings of a survey
 // vessel: show, diff, patch, seal and verify, a dredger's contour, then a
-// position, a depth in feet and the time, and a tide table made into a tide
-// file and plotted.
+// position, a depth in feet, a tide table made into a tide file and
+// plotted, depth and dredge-difference colours and the time.
 #include "Command.h"
 #include "Console.h"
 #include "EmbeddedSamples.h"
@@ -177,6 +177,24 @@ int RunDemo(bool keep) {
 
     Heading("vex tide import tide.txt -o tide.tid; vex tide plot tide.tid -o tide.svg");
     if (const int tide = TideTour(folder); tide != kSuccess) return tide;
+
+    Heading("vex colours lookup depth-colours.ini -- -25 -14 -3.5 and dredge-difference.ini");
+    for (const char* name : {"depth-colours.ini", "dredge-difference.ini"}) {
+        vex::FileObject colourFile;
+        if (auto failed = LoadSettings(PathText(folder / name), colourFile)) return *failed;
+        vex::ColorTable colours;
+        if (!colours.FileOpen(colourFile)) {
+            return Fail(kInputOutput, PathText(folder / name), "not a colour table");
+        }
+        for (double depth : {-25.0, -14.0, -3.5, -0.3, 0.1, 0.4}) {
+            const vex::COLORREF c = colours.GetColor(depth);
+            const CString band = colours.GetName(depth);
+            PrintLine(std::string(name) + "  " + vex::FormatDouble(depth, 1, 0).ToUtf8() +
+                      vex::Format("  #%02X%02X%02X", vex::GetRValue(c), vex::GetGValue(c),
+                                  vex::GetBValue(c)) +
+                      (band.IsEmpty() ? "" : "  " + band.ToUtf8()));
+        }
+    }
 
     Heading("vex time");
     const double now = vex::CExTime::GetCurTime();

@@ -34,6 +34,7 @@ int main(int argc, char** argv) {
     vextool::AddGeoCommand(app, run);
     vextool::AddNumberCommand(app, run);
     vextool::AddContourCommand(app, run);
+    vextool::AddColoursCommand(app, run);
     vextool::AddDemoCommand(app, run);
     vextool::AddUnitsCommand(app, run);
     vextool::AddPortsCommand(app, run);

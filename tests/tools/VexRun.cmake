@@ -1,6 +1,6 @@
-# The check that the end-to-end tests of the vex tool share: runs the program
-# (under the emulator when cross-built) in ${WORK} and compares its exit
-# status and output.
+# The check shared by the end-to-end scripts of the vex tool: runs vex in
+# ${WORK} (under ${EMULATOR} when cross-built) and compares exit status and
+# output; the output stays in last_output for further checks.
 # vex(<expected exit> <stdout must contain> <stderr must contain> args...)
 function(vex expected_rc stdout_part stderr_part)
   execute_process(COMMAND ${EMULATOR} ${VEX} ${ARGN} WORKING_DIRECTORY ${WORK}
@@ -26,4 +26,5 @@ function(vex expected_rc stdout_part stderr_part)
                        "stdout: ${out}\nstderr: ${err}\n"
                        "expected stdout with '${stdout_part}', stderr with '${stderr_part}'")
   endif()
+  set(last_output "${out}" PARENT_SCOPE)
 endfunction()
