@@ -365,13 +365,23 @@ std::string FormatCpt(const CptPalette& palette) {
     } else {
         // Locked entries may repeat a value; GMT wants rising slices, and
         // the later of equal entries is the one a lookup finds.
+        double below = table.EntryValue(0);
         for (int i = 0; i + 1 < n; ++i) {
             if (table.EntryValue(i) < table.EntryValue(i + 1)) {
+                below = table.EntryValue(i);
                 slice(table.EntryValue(i), table.EntryValue(i + 1), table.EntryColor(i),
                       table.EntryName(i));
             }
         }
+        // The last entry gets a slice of its own, as high as the one below
+        // it: as F alone it would be lost on reading whenever it has the
+        // colour of the band below (F then adds nothing), and so would its
+        // name. F repeats its colour for everything above.
+        const double last = table.EntryValue(n - 1);
+        double end = last + (last - below);
+        if (!(end > last) || !std::isfinite(end)) end = std::nextafter(last, INFINITY);
         top = table.EntryColor(n - 1);
+        slice(last, end, top, table.EntryName(n - 1));
     }
     out += "B\t" + ColorText(table.LowColor()) + "\n";
     out += "F\t" + ColorText(top) + "\n";

@@ -10,7 +10,8 @@
 // slice (colour0 != colour1) becomes `continuousSteps` equal bands of
 // evenly blended colours (one band of colour0 by default). Export writes
 // one constant-colour slice per entry up to the next entry, the last
-// entry as F and LowColor as B. Colours are read as r g b, r/g/b, #rrggbb,
+// entry's slice as high as the one below it, its colour again as F, and
+// LowColor as B. Colours are read as r g b, r/g/b, #rrggbb,
 // grey, h-s-v and the common X11 names; COLOR_MODEL RGB and HSV.
 //
 //   vex::CptPalette cpt;

@@ -156,6 +156,23 @@ TEST(CptFile, ExportedTablesReadBackToTheSameColours) {
     EXPECT_EQ(back.table.EntryName(3), CString(u"channel; depth"));
 }
 
+// Found by fuzzing: a last entry with the colour of the entry below was
+// written only as F, which reading takes as nothing new, so the entry (and
+// with it the boundary) was lost. Every entry must come back, names too.
+TEST(CptFile, TheLastEntryComesBackEvenInTheColourBelowIt) {
+    CptPalette out;
+    out.table.AddEntry(0.0, RGB(255, 0, 0), false, u"");
+    out.table.AddEntry(10.0, RGB(255, 0, 0), false, u"top band");
+    CptPalette in;
+    CString error;
+    const std::string text = FormatCpt(out);
+    ASSERT_TRUE(ParseCpt(text, in, error)) << error.ToUtf8();
+    ASSERT_EQ(in.table.NumEntries(), 2) << text;
+    EXPECT_EQ(in.table.EntryValue(1), 10.0);
+    EXPECT_EQ(in.table.EntryName(1), CString(u"top band"));
+    EXPECT_EQ(FormatCpt(in), text) << "a written table is a fixed point";
+}
+
 // GMT is a separate program; these run where it is installed.
 class CptWithGmt : public ::testing::Test {
   protected:
