@@ -20,6 +20,19 @@ vex(3 "" "missing.ini: no such file" ini show missing.ini)
 vex(3 "" "no section [Nope]" ini get vessel.ini Nope X)
 vex(3 "" "no key \"Nope\"" ini get vessel.ini Offsets Nope)
 vex(3 "" "nosections.ini: malformed" ini show nosections.ini)
+
+# Inputs over 512 MiB are refused before they are read, whatever the
+# command; a sparse file of 600 MiB costs no disk.
+find_program(TRUNCATE truncate)
+if(TRUNCATE)
+  execute_process(COMMAND ${TRUNCATE} -s 600M ${WORK}/huge.ini)
+  vex(3 "" "huge.ini: larger than 512 MiB" ini show huge.ini)
+  vex(3 "" "huge.ini: larger than 512 MiB" crc huge.ini)
+  vex(3 "" "huge.ini: larger than 512 MiB" tide show huge.ini)
+  vex(3 "" "huge.ini: larger than 512 MiB" colours show huge.ini)
+  vex(3 "" "huge.ini: larger than 512 MiB" draw huge.ini -o huge.svg)
+  file(REMOVE ${WORK}/huge.ini)
+endif()
 vex(3 "" "empty.ini: malformed" ini show empty.ini)
 vex(3 "" "garbage.bin" ini show garbage.bin)
 

@@ -3,6 +3,7 @@
 #include "Command.h"
 #include "Console.h"
 #include "ExitCode.h"
+#include "InputFile.h"
 
 #include <base/colour/ColorLegend.h>
 #include <base/colour/ColorTable.h>
@@ -38,6 +39,7 @@ bool IsCptName(const std::string& name) {
 
 // Reads a colour table file, or a CPT file by its extension; an exit code on failure.
 std::optional<int> LoadTable(const std::string& name, ColorTable& table) {
+    if (auto refused = RefuseOversized(name)) return refused;
     if (IsCptName(name)) {
         vex::CptPalette cpt;
         CString error;
@@ -265,6 +267,7 @@ int RunToCpt(const ConvertOptions& o) {
 }
 
 int RunFromCpt(const ConvertOptions& o) {
+    if (auto refused = RefuseOversized(o.input)) return *refused;
     vex::CptPalette cpt;
     CString error;
     if (!vex::ReadCptFile(CString::FromUtf8(o.input), cpt, error, {o.steps})) {

@@ -2,6 +2,7 @@
 #include "Command.h"
 #include "Console.h"
 #include "ExitCode.h"
+#include "InputFile.h"
 
 #include <base/config/CRCChecksum.h>
 #include <base/framework/FileStream.h>
@@ -10,6 +11,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,34 +33,15 @@ struct Sums {
 
 // The 16-bit CRC runs over the whole content at once (it has no
 // continuation form), so the content is read whole.
-bool ReadAll(const std::string& path, std::vector<unsigned char>& content) {
-    unsigned char block[65536];
-    if (path == "-") {
-        vex::platform::SetBinaryStdin();
-        for (std::size_t n; (n = std::fread(block, 1, sizeof block, stdin)) > 0;) {
-            content.insert(content.end(), block, block + n);
-        }
-        return !std::ferror(stdin);
-    }
-    vex::FileStream file;
-    if (!file.Open(vex::CString::FromUtf8(path),
-                   vex::CFile::modeRead | vex::CFile::shareDenyWrite)) {
-        return false;
-    }
-    for (std::size_t n; (n = file.Read(block, sizeof block)) > 0;)
-        content.insert(content.end(), block, block + n);
-    return !file.GetError().IsError();
-}
-
-bool SumFile(const std::string& path, Sums& sums) {
-    std::vector<unsigned char> content;
-    if (!ReadAll(path, content)) return false;
-    const unsigned char* begin = content.data();
+std::optional<int> SumFile(const std::string& path, Sums& sums) {
+    std::string content;
+    if (auto failed = ReadInputFile(path, content)) return failed;
+    const auto* begin = reinterpret_cast<const unsigned char*>(content.data());
     const unsigned char* end = begin + content.size();
     sums.crc32.Add(begin, content.size());
     sums.crc16 = vex::Compute16BitCRC(begin, end);
     sums.byteOr = vex::Compute8BitCRC(begin, end);
-    return true;
+    return std::nullopt;
 }
 
 int RunCrc(const CrcOptions& options) {
@@ -66,8 +49,8 @@ int RunCrc(const CrcOptions& options) {
     int status = kSuccess;
     for (const std::string& path : options.files) {
         Sums sums;
-        if (!SumFile(path, sums)) {
-            status = Fail(kInputOutput, path, "cannot be read");
+        if (auto failed = SumFile(path, sums)) {
+            status = *failed;
             continue;
         }
         std::string line;

@@ -3,6 +3,7 @@
 #include "Command.h"
 #include "Console.h"
 #include "ExitCode.h"
+#include "InputFile.h"
 
 #include <base/framework/FileStream.h>
 #include <base/framework/Format.h>
@@ -54,18 +55,6 @@ struct Drawing {
     std::vector<LabelledLine> lines;
     std::vector<vex::Curve> arcs;
 };
-
-bool ReadAll(const std::string& path, std::string& content) {
-    vex::FileStream file;
-    if (!file.Open(vex::CString::FromUtf8(path),
-                   vex::CFile::modeRead | vex::CFile::shareDenyWrite)) {
-        return false;
-    }
-    char block[65536];
-    for (std::size_t n; (n = file.Read(block, sizeof block)) > 0;)
-        content.append(block, n);
-    return !file.GetError().IsError();
-}
 
 // The next blank-separated word of `rest`, which loses it.
 std::string_view NextWord(std::string_view& rest) {
@@ -182,7 +171,7 @@ std::vector<vex::Point> Crossings(const Drawing& drawing) {
 
 int RunDraw(const DrawOptions& o) {
     std::string content;
-    if (!ReadAll(o.input, content)) return Fail(kInputOutput, o.input, "cannot be read");
+    if (auto failed = ReadInputFile(o.input, content)) return *failed;
     Drawing drawing;
     std::size_t lineNumber = 0;
     for (std::size_t begin = 0; begin < content.size();) {

@@ -2,6 +2,7 @@
 
 #include "Console.h"
 #include "ExitCode.h"
+#include "InputFile.h"
 
 #include <base/framework/CFile.h>
 #include <base/framework/CharBuffer.h>
@@ -31,6 +32,7 @@ std::optional<int> LoadSettings(const std::string& path, vex::FileObject& file) 
     if (!std::filesystem::exists(fsPath, ec)) return Fail(kInputOutput, path, "no such file");
     if (std::filesystem::is_directory(fsPath, ec))
         return Fail(kInputOutput, path, "is a folder, not a settings file");
+    if (auto refused = RefuseOversized(path)) return refused;
     const vex::CString widePath = vex::CString::FromUtf8(path);
     if (LooksBinary(widePath))
         return Fail(kInputOutput, path, "holds binary data, not a settings file");

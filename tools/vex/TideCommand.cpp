@@ -3,6 +3,7 @@
 #include "Command.h"
 #include "Console.h"
 #include "ExitCode.h"
+#include "InputFile.h"
 #include "TideText.h"
 
 #include <base/framework/AtomicFile.h>
@@ -45,6 +46,7 @@ fs::path PathOf(const std::string& utf8) {
 std::optional<int> OpenTide(const std::string& path, vex::TideFile& tide) {
     std::error_code ec;
     if (!fs::is_regular_file(PathOf(path), ec)) return Fail(kInputOutput, path, "no such file");
+    if (auto refused = RefuseOversized(path)) return refused;
     if (!tide.FileOpen(vex::CString::FromUtf8(path), false))
         return Fail(kInputOutput, path, "cannot be opened for reading and writing");
     return std::nullopt;
@@ -124,9 +126,8 @@ int Import(const TideOptions& o) {
     TimeForm form = TimeForm::either;
     if (!o.timeFormat.empty() && !ParseTimeForm(o.timeFormat, form))
         return Fail(kUsage, "--time-format: expected " + TimeFormNames());
-    std::ifstream in(PathOf(o.file), std::ios::binary);
-    if (!in) return Fail(kInputOutput, o.file, "cannot be read");
-    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::string text;
+    if (auto failed = ReadInputFile(o.file, text)) return *failed;
     std::vector<std::pair<double, double>> rows;
     int badLine = 0;
     if (!ParseTideTable(text, form, rows, badLine)) {

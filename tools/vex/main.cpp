@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
     app.footer(
         "Exit status: 0 success, 1 files differ or verification failed, 2 usage, 3 input/output "
         "error.\n"
+        "Files over 512 MiB are refused, not read.\n"
         "Run 'vex COMMAND --help' for a command's options and an example.");
 
     vextool::Action run;
