@@ -71,8 +71,7 @@ TEST(ColorTableFile, SaveWritesTheTextsAndOpenReadsThemBack) {
     EXPECT_EQ(back.LowColorName(), CString(u"too deep"));
     EXPECT_TRUE(back.HasDredgeDiffSection());
     EXPECT_DOUBLE_EQ(back.GetUnderDredgeLimit(), 0.75);
-    COLORREF lo = 0;
-    COLORREF hi = 0;
+    COLORREF lo = 0, hi = 0;
     unsigned n = 0;
     back.GetInTolColorRange(lo, hi, n);
     EXPECT_EQ(lo, RGB(1, 1, 1));
@@ -108,8 +107,7 @@ TEST(ColorTableFile, MalformedAndIncompleteFiles) {
     EXPECT_EQ(table.NumEntries(), 1);
     EXPECT_EQ(badValue.GetErrorStatus(), FileObject::statusConversionFailed);
     EXPECT_TRUE(table.HasDredgeDiffSection());
-    COLORREF lo = 0;
-    COLORREF hi = 0;
+    COLORREF lo = 0, hi = 0;
     unsigned n = 0;
     table.GetOverDredgeColorRange(lo, hi, n);
     EXPECT_EQ(n, 9u);

@@ -163,9 +163,7 @@ TEST(ColorTable, ColourFunctions) {
         {RGB(255, 128, 0), 60 * 128 / 255.0, 1, 1},
     };
     for (const Hsv& c : hsv) {
-        double h = 0;
-        double s = 0;
-        double v = 0;
+        double h = 0, s = 0, v = 0;
         ColorTable::RGBtoHSV(c.color, h, s, v);
         EXPECT_NEAR(h, c.h, 1e-9) << std::hex << c.color;
         EXPECT_NEAR(s, c.s, 1e-9);
@@ -198,9 +196,7 @@ TEST(ColorTable, ColourFunctions) {
     std::mt19937 random(7);
     for (int i = 0; i < 500; ++i) {
         const COLORREF c = random() & 0xFFFFFF;
-        double h = 0;
-        double s = 0;
-        double l = 0;
+        double h = 0, s = 0, l = 0;
         ColorTable::RGBtoHSL(c, h, s, l);
         ASSERT_EQ(ColorTable::HSLtoRGB(h, s, l), c);
         ASSERT_EQ(ColorTable::ScaleIntensity(c, 1.0), c);

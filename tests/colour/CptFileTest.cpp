@@ -147,13 +147,10 @@ TEST(CptFile, ExportedTablesReadBackToTheSameColours) {
         ExpectSameLookups(table, in.table);
         ExpectSameLookups(in.table, table);
         EXPECT_EQ(in.nanColor.value_or(0), RGB(10, 20, 30));
+        if (&table == &tables[0]) {
+            EXPECT_EQ(in.table.EntryName(3), CString(u"channel; depth"));
+        }
     }
-    CptPalette back;
-    CString error;
-    CptPalette named;
-    named.table = tables[0];
-    ASSERT_TRUE(ParseCpt(FormatCpt(named), back, error));
-    EXPECT_EQ(back.table.EntryName(3), CString(u"channel; depth"));
 }
 
 // Found by fuzzing: a last entry with the colour of the entry below was
