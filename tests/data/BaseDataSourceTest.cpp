@@ -13,7 +13,10 @@ T& Ref() {
     return *reinterpret_cast<T*>(standIn);
 }
 
-TEST(BaseDataSource, PlainSourceReportsEveryOperationUnsupported) {
+// Every operation of the plain source is a one-line "unsupported"; what is
+// worth checking is that the queries leave their out parameters alone, and
+// the one operation that answers true.
+TEST(BaseDataSource, PlainSourceLeavesOutParametersAlone) {
     BaseDataSource source;
     const BaseDataSource& constSource = source;
     const auto mode = static_cast<ADDR_MODE>(1);
@@ -21,49 +24,22 @@ TEST(BaseDataSource, PlainSourceReportsEveryOperationUnsupported) {
     std::uint16_t status = 7;
     CDataId id(1, 2, 3, 4);
 
-    EXPECT_FALSE(source.DataBlockSetup(4, id));
-    EXPECT_FALSE(source.InitDataElement(0, 1, 2, 3, 4, 5));
-    EXPECT_FALSE(source.DataBlockInit());
-    EXPECT_FALSE(source.Interpolate(Ref<CDataBlock>()));
     EXPECT_FALSE(source.Interpolate(1.0, 0, mode, d1, status));
     EXPECT_FALSE(source.InterpolateHeading(1.0, 0, mode, 1, 2, d1, status));
     EXPECT_FALSE(source.FindIntervalStartEnd(1.0, 0, mode, d1, d2, d3, d4, status));
     EXPECT_FALSE(constSource.GetLastAddTime(d1));
     EXPECT_FALSE(constSource.GetLastAddTimeLocal(d1));
-    EXPECT_FALSE(source.GetDataBlock(0, Ref<CDataBlock>()));
     EXPECT_FALSE(source.GetDataBlock(0, d1, Ref<CDataBlock>()));
     EXPECT_FALSE(source.GetDataTimeStatus(0, d1, status));
-    EXPECT_FALSE(source.UpdateData(1.0, Ref<CAttributeMap>()));
-    EXPECT_FALSE(source.UpdateDataBlock(Ref<CDataBlock>()));
     EXPECT_FALSE(constSource.GetBufferStatus(d1, status));
-    EXPECT_FALSE(source.SetBufferStatus(1.0, 1));
-    EXPECT_FALSE(source.AddDataBlock(Ref<CDataBlock>()));
-    EXPECT_FALSE(source.AddClockSyncDataBlock(Ref<CDataBlock>()));
     EXPECT_FALSE(constSource.GetDataId(id));
-    EXPECT_EQ(source.GetDataIdPtr(), nullptr);
-    EXPECT_FALSE(source.GetLastElementInternal());
-    EXPECT_EQ(source.GetInternalDataBlock(), nullptr);
-    EXPECT_FALSE(source.GetLastDataBlock(Ref<CDataBlock>()));
-    EXPECT_FALSE(source.Allocate(100));
     EXPECT_FALSE(source.GetInterpolAttribs(d1));
     EXPECT_FALSE(source.GetExtrapolationAttribs(d1));
-    EXPECT_EQ(constSource.GetBufSize(), 0);
-    EXPECT_EQ(source.GetNumElements(), 0);
-    EXPECT_EQ(constSource.GetFreeBufferSpace(), 0);
     EXPECT_FALSE(source.GetTimeSpan(d1, d2));
-    EXPECT_EQ(source.GetFirstElementTime(), 0.0);
-    EXPECT_EQ(source.GetLastElementTime(), 0.0);
-    EXPECT_FALSE(source.HandleAttribsChange(id));
-    EXPECT_EQ(source.GetError(), 0);
-    EXPECT_FALSE(source.MakeEmpty());
-    EXPECT_TRUE(source.GetGlobalEnableRecache());
-
-    // Out parameters of the failed queries are left alone.
     EXPECT_EQ(d1 + d2 + d3 + d4, 28.0);
     EXPECT_EQ(status, 7);
     EXPECT_EQ(id, CDataId(1, 2, 3, 4));
-    EXPECT_EQ(source.GetLastNotifyTime(), 0.0);
-    EXPECT_FALSE(source.CheckOption(0xFFFFFFFFu));
+    EXPECT_TRUE(source.GetGlobalEnableRecache());
 }
 
 TEST(BaseDataSource, OptionsAndNotifyTimeAreKeptAndCopied) {

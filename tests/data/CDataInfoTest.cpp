@@ -13,15 +13,6 @@ namespace {
 
 constexpr std::uint16_t kNone = CDataInfo::NO_INDEX;
 
-TEST(CDataInfo, DefaultHasNoElementAndNoArrayIndex) {
-    const CDataInfo info;
-    EXPECT_EQ(info.GetDataId(), CDataId());
-    EXPECT_EQ(info.GetElemId(), 65535);
-    EXPECT_EQ(info.GetArrayIndex(), 65535);
-    EXPECT_FALSE(info.HasElemId() || info.HasArrayIndex() || info.IsValid());
-    EXPECT_EQ(info.GenerateString(), u"0,0,0,0,65535");
-}
-
 TEST(CDataInfo, TextHasSixFieldsOnlyWithAnArrayIndex) {
     struct Case {
         CDataInfo info;
