@@ -72,12 +72,7 @@ TEST(UnitDefinition, CatalogueFactorsAgreeWithPublishedConversions) {
     }
 }
 
-TEST(UnitDefinition, GroupsAreTitledListsOfDistinctUnits) {
-    const char* const titles[] = {"System Units", "Speed Units",  "Distance Units",
-                                  "Depth Units",  "Volume Units", "Density Units"};
-    for (int group = 0; group < 6; ++group) {
-        EXPECT_EQ(UnitDefinition::GetGroupName(group).ToUtf8(), titles[group]);
-    }
+TEST(UnitDefinition, GroupsAreListsOfDistinctUnits) {
     for (int group = 0; group < UnitDefinition::numGroups; ++group) {
         std::set<std::string> keys;
         for (const UnitItem& item : UnitDefinition::GetGroupItems(group)) {
