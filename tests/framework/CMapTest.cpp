@@ -24,7 +24,6 @@ std::vector<std::pair<K, V>> Iterate(const CMap<K, V>& map) {
 
 TEST(CMap, StartsWithSeventeenBucketsAndGrowsWithItsEntries) {
     CMap<int, int> map;
-    EXPECT_EQ(map.GetBlockSize(), 10);
     EXPECT_EQ(map.GetStartPosition(), nullptr);
     map[1] = 1;
     EXPECT_EQ(map.GetHashTableSize(), 17);
@@ -90,9 +89,7 @@ TEST(CMap, RemovingTheEntryJustVisitedKeepsTheWalkGoing) {
     CMap<int, int> map;
     for (int i = 0; i < 200; ++i)
         map[i] = i;
-    int visited = 0;
-    int key = 0;
-    int value = 0;
+    int visited = 0, key = 0, value = 0;
     for (POSITION pos = map.GetStartPosition(); pos != nullptr;) {
         map.GetNextAssoc(pos, key, value);
         ++visited;
