@@ -140,6 +140,8 @@ TEST(OffsetLineData, CornersGetTheBisectorInsideAndABevelOutside) {
 TEST(OffsetLineData, StraightBentAndZigZagLinesStayAtTheOffset) {
     const std::vector<std::pair<const char*, std::vector<std::pair<double, double>>>> lines = {
         {"straight", {{0, 0}, {3, 4}, {6, 8}, {30, 40}}},
+        {"bent", {{0, 0}, {50, 10}, {80, 60}, {70, 120}, {20, 150}}},
+        {"zig-zag", {{0, 0}, {10, 10}, {20, 0}, {30, 10}, {40, 0}, {50, 10}, {60, 0}}},
     };
     for (const auto& [name, xy] : lines) {
         const auto source = Polyline(xy);
