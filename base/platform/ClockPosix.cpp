@@ -37,7 +37,7 @@ std::int64_t TscNow() {
 // the kernel allows only after finding it in step on every processor.
 bool TscUsable() {
     unsigned eax = 0, ebx = 0, ecx = 0, edx = 0;
-    if (__get_cpuid_max(0x80000000u, nullptr) < 0x80000007u) return false;
+    if (static_cast<unsigned>(__get_cpuid_max(0x80000000u, nullptr)) < 0x80000007u) return false;
     __cpuid(0x80000007u, eax, ebx, ecx, edx);
     if ((edx & (1u << 8)) == 0) return false;
     std::ifstream source("/sys/devices/system/clocksource/clocksource0/current_clocksource");
