@@ -1,12 +1,15 @@
 // The cost of reading the suite's clock: CExTime::GetCurTime against the
-// bare counter it is built on, alone and while the synchronisation worker
-// refits the coefficients every 100 ms. The target is under 100 ns a call.
+// bare counter it is built on and against std::chrono::system_clock::now(),
+// alone and while the synchronisation worker refits the coefficients every
+// 100 ms. GetCurTime must cost no more than system_clock::now().
 #include <base/platform/Clock.h>
 #include <base/time/ExTime.h>
 #include <base/time/ExTimeSync.h>
 #include <base/time/TimeMq.h>
 
 #include <benchmark/benchmark.h>
+
+#include <chrono>
 
 namespace {
 
@@ -15,6 +18,20 @@ void CounterOnly(benchmark::State& state) {
         benchmark::DoNotOptimize(vex::platform::CounterNow());
 }
 BENCHMARK(CounterOnly);
+
+void SystemClockNow(benchmark::State& state) {
+    for (auto _ : state)
+        benchmark::DoNotOptimize(std::chrono::system_clock::now());
+}
+BENCHMARK(SystemClockNow);
+
+// The same with the worker running, as the peer of GetCurTimeSynchronised.
+void SystemClockNowSynchronised(benchmark::State& state) {
+    if (state.thread_index() == 0) vex::CExTime clock;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(std::chrono::system_clock::now());
+}
+BENCHMARK(SystemClockNowSynchronised)->Threads(1)->Threads(2)->UseRealTime();
 
 void GetCurTime(benchmark::State& state) {
     vex::CExTime::GetCurTime();  // the first call takes the base and pauses 5 ms

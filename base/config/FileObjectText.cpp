@@ -96,6 +96,19 @@ std::size_t FindComment(View text) {
     return View::npos;
 }
 
+// The same in UTF-8 text, a "/" at a time.
+std::size_t FindComment(std::string_view text) {
+    std::size_t from = 0;
+    for (;;) {
+        const std::size_t slash = text.find('/', from);
+        if (slash == std::string_view::npos || slash + 1 >= text.size()) {
+            return std::string_view::npos;
+        }
+        if (text[slash + 1] == '/') return slash;
+        from = slash + 1;
+    }
+}
+
 }  // namespace
 
 // Turns physical lines into extra lines, sections and items of the object,
@@ -111,6 +124,45 @@ std::size_t FindComment(View text) {
 class FileObject::Loader {
   public:
     explicit Loader(FileObject& file) : m_file(file) {}
+
+    // Takes the complete lines at the start of bytes (all of them when last
+    // is set) and removes them from bytes; false when the read must stop.
+    // Lines are split as the line reader splits them: at LF, less a CR
+    // before it.
+    bool Bytes(std::string_view& bytes, textencoding::type encoding, bool last) {
+        std::string_view lines = bytes;
+        if (!last) lines = lines.substr(0, lines.rfind('\n') + 1);  // npos + 1 is 0
+        bytes.remove_prefix(lines.size());
+        ExpectSections(lines);
+        while (!lines.empty()) {
+            const void* const lf = std::memchr(lines.data(), '\n', lines.size());
+            const std::size_t length =
+                lf ? static_cast<std::size_t>(static_cast<const char*>(lf) - lines.data())
+                   : lines.size();
+            std::string_view raw = lines.substr(0, length);
+            lines.remove_prefix(lf ? length + 1 : length);
+            if (lf && !raw.empty() && raw.back() == '\r') raw.remove_suffix(1);
+            bool more = true;
+            if (encoding == textencoding::multibyte) {
+                m_line = AnsiToUtf16(raw);
+                more = Line(m_line);
+            } else if (m_sawHeader && !m_file.m_noEndLineComment &&
+                       (raw.empty() || raw.front() != ';')) {
+                // After the first header the physical line is not kept, so
+                // an end-of-line comment is cut before it is decoded: "/"
+                // never occurs inside a multi-byte sequence.
+                const std::size_t comment = FindComment(raw);
+                DecodeUtf8Line(comment == std::string_view::npos ? raw : raw.substr(0, comment),
+                               m_line);
+                more = Text(m_line, m_line);
+            } else {
+                DecodeUtf8Line(raw, m_line);
+                more = Line(m_line);
+            }
+            if (!more) return false;
+        }
+        return true;
+    }
 
     // Takes the next physical line; false when the read must stop here.
     bool Line(View line) {
@@ -130,6 +182,12 @@ class FileObject::Loader {
                 text = text.substr(0, comment);
             }
         }
+        return Text(line, text);
+    }
+
+    // The line less its comment: the text of a physical line that is not a
+    // comment line.
+    bool Text(View line, View text) {
         if (!m_sawHeader) m_pendingLines.emplace_back(line);
         if (!m_continuing) {
             // The common case works on the line itself, without a copy.
@@ -182,6 +240,10 @@ class FileObject::Loader {
             const std::size_t close = text.rfind(u']');
             const View name = close == View::npos ? View() : Trim(text.substr(1, close - 1));
             m_section = &m_file.SectionForWriting(CString(name), false);
+            if (m_headers < m_expected.size() && m_section->IsEmpty()) {
+                m_section->Reserve(m_expected[m_headers]);
+            }
+            ++m_headers;
             m_sawHeader = true;
             m_pendingLines.clear();
             // What follows "[Encrypted]" is enciphered and not for this reader.
@@ -199,7 +261,31 @@ class FileObject::Loader {
         return true;
     }
 
+    // Notes the number of lines after each header line of the text, in
+    // order: room reserved for a new section's items, so that a large
+    // file's sections are not moved as they grow. Only a hint; the counts
+    // need not be right.
+    void ExpectSections(std::string_view bytes) {
+        const char* p = bytes.data();
+        const char* const end = p + bytes.size();
+        bool counting = false;
+        while (p != end) {
+            const char* first = p;
+            while (first != end && (*first == ' ' || *first == '\t'))
+                ++first;
+            if (first != end && *first == '[') {
+                m_expected.push_back(0);
+                counting = true;
+            } else if (counting) {
+                ++m_expected.back();
+            }
+            const void* const lf = std::memchr(first, '\n', static_cast<std::size_t>(end - first));
+            p = lf ? static_cast<const char*>(lf) + 1 : end;
+        }
+    }
+
     FileObject& m_file;
+    std::u16string m_line;     // the line being read, decoded
     std::u16string m_pending;  // text of a line continued on the next one
     bool m_continuing = false;
     // Before the first header: the physical lines that make up the pending
@@ -207,7 +293,29 @@ class FileObject::Loader {
     std::vector<CString> m_pendingLines;
     bool m_sawHeader = false;
     detail::SectionData* m_section = nullptr;
+    std::vector<std::size_t> m_expected;
+    std::size_t m_headers = 0;
 };
+
+namespace {
+
+// Gives back, when a load ends, the room reserved for items that the file
+// did not hold.
+template <class Sections>
+struct ShrinkAfterLoadingT {
+    Sections& sections;
+    ~ShrinkAfterLoadingT() {
+        sections.ForEach([](const CString&, std::shared_ptr<detail::SectionData>& data) {
+            data->ShrinkToFit();
+        });
+    }
+};
+
+// Files are read a piece at a time: a large file's bytes are never all in
+// memory beside its parsed content.
+constexpr std::size_t kReadPiece = std::size_t{1} << 20;
+
+}  // namespace
 
 // --- opening --------------------------------------------------------------------
 
@@ -264,17 +372,29 @@ bool FileObject::OpenFile(const CString& name, unsigned flags) {
         file->Close();
         return Loaded(true);
     }
-    // Read in one piece: the lines are the same as the line reader's, and
-    // a large file loads several times faster.
-    const auto length = static_cast<std::size_t>(file->GetLength());
-    const auto bytes = std::make_unique_for_overwrite<char[]>(length);
-    const std::size_t read = file->Read(bytes.get(), length);
-    if (file->GetError().IsError()) {
-        m_errorStatus = statusFileNotOpened;
-        GlobalErrorList::Get().Insert(FileError(name, FileError::READ), m_errorContext);
-        return false;
+    // Read in large pieces rather than by the line reader: the lines are
+    // the same, and a large file loads several times faster.
+    const textencoding::type encoding = file->GetEncoding();
+    Loader loader(*this);
+    const ShrinkAfterLoadingT<SectionTable> shrink{m_sections};
+    std::vector<char> buffer(kReadPiece);
+    std::size_t held = 0;  // bytes of an incomplete line at the start
+    for (;;) {
+        if (held == buffer.size()) buffer.resize(2 * buffer.size());  // a very long line
+        const std::size_t read = file->Read(buffer.data() + held, buffer.size() - held);
+        if (file->GetError().IsError()) {
+            m_errorStatus = statusFileNotOpened;
+            GlobalErrorList::Get().Insert(FileError(name, FileError::READ), m_errorContext);
+            return false;
+        }
+        const bool last = read == 0;
+        std::string_view bytes(buffer.data(), held + read);
+        if (!loader.Bytes(bytes, encoding, last)) return Loaded(true);
+        if (last) break;
+        std::memmove(buffer.data(), bytes.data(), bytes.size());
+        held = bytes.size();
     }
-    return LoadBytes(std::string_view(bytes.get(), read), file->GetEncoding());
+    return Loaded(loader.Finish());
 }
 
 bool FileObject::FileOpen(const CString& name, unsigned flags) {
@@ -353,23 +473,8 @@ bool FileObject::Loaded(bool sawSection) {
 
 bool FileObject::LoadBytes(std::string_view bytes, textencoding::type encoding) {
     Loader loader(*this);
-    std::u16string line;
-    while (!bytes.empty()) {
-        // Lines as the line reader splits them: at LF, less a CR before it.
-        const void* const lf = std::memchr(bytes.data(), '\n', bytes.size());
-        const std::size_t length =
-            lf ? static_cast<std::size_t>(static_cast<const char*>(lf) - bytes.data())
-               : bytes.size();
-        std::string_view raw = bytes.substr(0, length);
-        bytes.remove_prefix(lf ? length + 1 : length);
-        if (lf && !raw.empty() && raw.back() == '\r') raw.remove_suffix(1);
-        if (encoding == textencoding::multibyte) {
-            line = AnsiToUtf16(raw);
-        } else {
-            DecodeUtf8Line(raw, line);
-        }
-        if (!loader.Line(line)) return Loaded(true);
-    }
+    const ShrinkAfterLoadingT<SectionTable> shrink{m_sections};
+    if (!loader.Bytes(bytes, encoding, true)) return Loaded(true);
     return Loaded(loader.Finish());
 }
 
@@ -437,26 +542,55 @@ struct Utf16Text {
 };
 
 // The text as UTF-8 with CR LF line ends, as a text-mode stream writes it
-// (an LF inside a value becomes CR LF too). ASCII, the bulk of a settings
-// file, is copied directly.
+// (an LF inside a value becomes CR LF too). Written through a cursor into
+// room made ahead, so that each piece costs one check of the room; ASCII,
+// the bulk of a settings file, is copied directly.
 struct Utf8CrLfText {
-    std::string bytes;
+    std::string bytes;  // sized ahead; the first used bytes are the text
+    std::size_t used = 0;
+
+    // Room for n more bytes at the cursor.
+    char* Room(std::size_t n) {
+        if (bytes.size() - used < n) bytes.resize(std::max(2 * bytes.size(), used + n));
+        return bytes.data() + used;
+    }
     void Append(View piece) {
+        // No UTF-16 code unit takes more than three bytes; LF takes two.
+        char* out = Room(3 * piece.size());
         const char16_t* p = piece.data();
         const char16_t* const end = p + piece.size();
+        // Blocks of plain ASCII are narrowed sixteen characters at a time,
+        // in loops without early exits that compile to vector instructions.
+        while (end - p >= 16) {
+            bool special = false;
+            for (int k = 0; k < 16; ++k)
+                special |= p[k] >= 0x80 || p[k] == u'\n';
+            if (special) break;
+            for (int k = 0; k < 16; ++k)
+                out[k] = static_cast<char>(p[k]);
+            p += 16;
+            out += 16;
+        }
         while (p != end) {
-            if (*p >= 0x80) {
-                const char16_t* const run = p;
-                while (p != end && *p >= 0x80)
-                    ++p;
-                bytes += Utf16ToUtf8(View(run, static_cast<std::size_t>(p - run)));
+            if (*p < 0x80) {
+                if (*p == u'\n') *out++ = '\r';
+                *out++ = static_cast<char>(*p++);
                 continue;
             }
-            if (*p == u'\n') bytes.push_back('\r');
-            bytes.push_back(static_cast<char>(*p++));
+            const char16_t* const run = p;
+            while (p != end && *p >= 0x80)
+                ++p;
+            const std::string encoded = Utf16ToUtf8(View(run, static_cast<std::size_t>(p - run)));
+            out = std::copy(encoded.begin(), encoded.end(), out);
         }
+        used = static_cast<std::size_t>(out - bytes.data());
     }
-    void EndLine() { bytes.append("\r\n"); }
+    void EndLine() {
+        char* out = Room(2);
+        out[0] = '\r';
+        out[1] = '\n';
+        used += 2;
+    }
 };
 
 }  // namespace
@@ -474,8 +608,10 @@ std::string FileObject::RenderUtf8() const {
     LengthOfText length;
     RenderTo(length);
     Utf8CrLfText text;
-    text.bytes.reserve(length.length + length.length / 16);
+    // Line ends take a byte more, and a little non-ASCII text more still.
+    text.bytes.resize(length.length + length.length / 16 + 64);
     RenderTo(text);
+    text.bytes.resize(text.used);
     return std::move(text.bytes);
 }
 

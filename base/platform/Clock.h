@@ -1,8 +1,8 @@
 // Clock.h - the operating system's clocks, behind one small interface with
 // a POSIX and a Windows implementation.
 //
-// The counter is monotonic and high-resolution (Windows: the performance
-// counter; POSIX: CLOCK_MONOTONIC in nanoseconds). The system clock is UTC
+// The counter is monotonic and high-resolution (see CounterNow for which
+// counter it is). The system clock is UTC
 // in file-time units: 100 ns since 1601-01-01 00:00:00 UTC. Thread-safe.
 #pragma once
 
@@ -23,7 +23,10 @@ struct UtcCalendarTime {
     int millisecond = 0;
 };
 
-// The high-resolution counter now, in ticks of CounterFrequency().
+// The high-resolution counter now, in ticks of CounterFrequency(). On x86-64
+// POSIX systems whose kernel keeps time with an invariant time-stamp counter
+// it is that counter (its rate measured once, over 20 ms, on first use);
+// otherwise CLOCK_MONOTONIC in ns, or the Windows performance counter.
 VEXBASE_API std::int64_t CounterNow();
 // Ticks of CounterNow() per second; constant for the life of the process.
 VEXBASE_API std::int64_t CounterFrequency();

@@ -36,11 +36,9 @@ constexpr long kJulianEpochOffset = 1721119;
 // Days from 0000-03-01 (day 0) to 1970-01-01.
 constexpr std::int64_t kMarchDaysOf1970 = 719468;
 
-// The lock of the process-wide state. It is held for a few dozen
-// instructions on every GetCurTime, which stamps every data block: one
-// atomic exchange to take and a plain store to give back are cheaper than
-// a mutex's two atomic operations. A waiter that finds it held for long
-// yields.
+// Serialises the writers of the process-wide state. Readers do not take
+// it: they read the published values under the version count below. A
+// waiter that finds it held for long yields.
 class SpinLock {
   public:
     void lock() noexcept {
@@ -56,17 +54,23 @@ class SpinLock {
     std::atomic<bool> locked_{false};
 };
 
-// Process-wide state.
+// Process-wide state. GetCurTime stamps every data block from any thread,
+// so the values it needs are published for reading without a lock: a
+// writer holds m_lock and makes m_version odd while it changes them, and a
+// reader that sees the same even version before and after its reads has a
+// consistent set. The values are atomics read and written relaxed, so that
+// a reader racing a writer reads stale values, never torn ones.
 struct ExTimeState {
     SpinLock m_lock;
-    double m_time1970Base = 0.0;
-    double m_prevVexTime = 0.0;
-    double m_a0 = 0.0;
-    double m_a1 = 1.0;
-    double m_p0 = 0.0;
+    std::atomic<std::uint32_t> m_version{0};
+    std::atomic<double> m_time1970Base{0.0};
+    std::atomic<double> m_prevVexTime{0.0};
+    std::atomic<double> m_a0{0.0};
+    std::atomic<double> m_a1{1.0};
+    std::atomic<double> m_p0{0.0};
+    std::atomic<bool> m_bTimeSyncDone{false};
     std::atomic<double> m_lastUtcUpdate{0.0};
     double m_lastUtcUpdateCheckTime = 0.0;
-    bool m_bTimeSyncDone = false;
     std::atomic<bool> m_firstTimeInit{false};
     bool m_masterClock = true;
     std::atomic<ClockSource*> m_source{nullptr};
@@ -78,6 +82,60 @@ struct ExTimeState {
 // any static constructor or destructor of the process.
 constinit ExTimeState state;
 static_assert(std::is_trivially_destructible_v<ExTimeState>);
+
+// Holds the writers' lock and marks the published values as changing.
+class Publishing {
+  public:
+    Publishing() {
+        state.m_lock.lock();
+        version_ = state.m_version.load(std::memory_order_relaxed);
+        state.m_version.store(version_ + 1, std::memory_order_relaxed);
+        std::atomic_thread_fence(std::memory_order_release);
+    }
+    ~Publishing() {
+        state.m_version.store(version_ + 2, std::memory_order_release);
+        state.m_lock.unlock();
+    }
+    Publishing(const Publishing&) = delete;
+    Publishing& operator=(const Publishing&) = delete;
+
+  private:
+    std::uint32_t version_ = 0;
+};
+
+double Get(const std::atomic<double>& value) {
+    return value.load(std::memory_order_relaxed);
+}
+void Put(std::atomic<double>& value, double v) {
+    value.store(v, std::memory_order_relaxed);
+}
+
+// Readings this close to the previous one kept need no unwrapping and need
+// not be kept: whichever reading in between was the last, the distance to
+// it stays far below 2^31 ms. A reading outside the band takes the lock and
+// is kept, so the previous reading is never more than this behind.
+constexpr double kQuietBand = 1000.0;
+
+// The synchronised time of counter time counterMs read without the lock;
+// false when the lock is needed (first reading, a reading to keep or to
+// unwrap, or a writer at work).
+bool TryQuickTime(double counterMs, double& t) {
+    const std::uint32_t version = state.m_version.load(std::memory_order_acquire);
+    const bool done = state.m_bTimeSyncDone.load(std::memory_order_relaxed);
+    const double base = Get(state.m_time1970Base);
+    const double prev = Get(state.m_prevVexTime);
+    const double a0 = Get(state.m_a0);
+    const double a1 = Get(state.m_a1);
+    const double p0 = Get(state.m_p0);
+    std::atomic_thread_fence(std::memory_order_acquire);
+    if ((version & 1) != 0 || state.m_version.load(std::memory_order_relaxed) != version || !done) {
+        return false;
+    }
+    t = base + counterMs;
+    if (counterMs > 0.0 && !(std::fabs(t - prev) <= kQuietBand)) return false;
+    if (!std::isnan(a0) && a0 != 0.0) t = (t - p0) * a1 + a0;
+    return true;
+}
 
 ClockSource& Clock() {
     ClockSource* source = state.m_source.load(std::memory_order_acquire);
@@ -95,6 +153,16 @@ double CounterMs(const ClockSource& clock) {
         state.m_msPerTick.store(msPerTick, std::memory_order_relaxed);
     }
     return static_cast<double>(clock.CounterNow()) * msPerTick;
+}
+
+// The counter now in ms; the system's counter is read directly rather than
+// through the source interface, as every GetCurTime does it.
+double CounterNowMs() {
+    if (state.m_source.load(std::memory_order_acquire) == nullptr) {
+        const double msPerTick = state.m_msPerTick.load(std::memory_order_relaxed);
+        if (msPerTick != 0.0) return static_cast<double>(platform::CounterNow()) * msPerTick;
+    }
+    return CounterMs(Clock());
 }
 
 // The integer of a floating value, saturated, 0 for NaN: never undefined.
@@ -139,41 +207,44 @@ CExTime::CExTime() {
 // --- now -----------------------------------------------------------------
 
 double CExTime::GetExTime(double counterMs) {
+    double t = 0.0;
+    if (TryQuickTime(counterMs, t)) return t;
     ClockSource& clock = Clock();
-    std::lock_guard<SpinLock> lock(state.m_lock);
-    if (!state.m_bTimeSyncDone) {
+    const Publishing lock;
+    if (!state.m_bTimeSyncDone.load(std::memory_order_relaxed)) {
         // The base is taken after a 5 ms pause, as the suite's clock has
         // always done.
         clock.Pause(5);
         const double systemMs = FileTimeToVexTime(clock.SystemFileTime());
         const double counterNow = CounterMs(clock);
-        state.m_time1970Base = systemMs - counterNow;
-        state.m_prevVexTime = systemMs;
-        state.m_bTimeSyncDone = true;
+        Put(state.m_time1970Base, systemMs - counterNow);
+        Put(state.m_prevVexTime, systemMs);
+        state.m_bTimeSyncDone.store(true, std::memory_order_relaxed);
         state.m_lastUtcUpdateCheckTime = counterNow;
     }
-    double t = state.m_time1970Base + counterMs;
+    t = Get(state.m_time1970Base) + counterMs;
     if (counterMs > 0.0) {
+        const double prev = Get(state.m_prevVexTime);
         double correction = 0.0;
-        if (state.m_prevVexTime - t > kTwoTo31) {
+        if (prev - t > kTwoTo31) {
             correction = kTwoTo32;
-        } else if (t - state.m_prevVexTime > kTwoTo31) {
+        } else if (t - prev > kTwoTo31) {
             correction = -kTwoTo32;
         }
         if (correction != 0.0) {
             t += correction;
-            if (state.m_masterClock) state.m_time1970Base += correction;
+            if (state.m_masterClock)
+                Put(state.m_time1970Base, Get(state.m_time1970Base) + correction);
         }
-        state.m_prevVexTime = t;
+        Put(state.m_prevVexTime, t);
     }
-    if (!std::isnan(state.m_a0) && state.m_a0 != 0.0) {
-        t = (t - state.m_p0) * state.m_a1 + state.m_a0;
-    }
+    const double a0 = Get(state.m_a0);
+    if (!std::isnan(a0) && a0 != 0.0) t = (t - Get(state.m_p0)) * Get(state.m_a1) + a0;
     return t;
 }
 
 double CExTime::GetCurTime() {
-    return GetExTime(CounterMs(Clock()));
+    return GetExTime(CounterNowMs());
 }
 
 void CExTime::GetCurTime(std::time_t& seconds, int& milliseconds) {
@@ -191,19 +262,25 @@ double CExTime::GetRawUnsyncedWindowsTime() {
 }
 
 double CExTime::GetVexTime(double syncedTime) {
-    std::lock_guard<SpinLock> lock(state.m_lock);
-    if (std::isnan(state.m_a0) || std::isnan(state.m_a1) || state.m_a1 == 0.0) return syncedTime;
-    return (syncedTime - state.m_a0) / state.m_a1 + state.m_p0;
+    double a0 = 0.0, a1 = 0.0, p0 = 0.0;
+    {
+        std::lock_guard<SpinLock> lock(state.m_lock);
+        a0 = Get(state.m_a0);
+        a1 = Get(state.m_a1);
+        p0 = Get(state.m_p0);
+    }
+    if (std::isnan(a0) || std::isnan(a1) || a1 == 0.0) return syncedTime;
+    return (syncedTime - a0) / a1 + p0;
 }
 
 // --- synchronisation -----------------------------------------------------
 
 bool CExTime::SetUtcCoeffs(double a0, double a1, double p0) {
     ClockSource& clock = Clock();
-    std::lock_guard<SpinLock> lock(state.m_lock);
-    state.m_a0 = a0;
-    state.m_a1 = a1;
-    state.m_p0 = p0;
+    const Publishing lock;
+    Put(state.m_a0, a0);
+    Put(state.m_a1, a1);
+    Put(state.m_p0, p0);
     const double now = CounterMs(clock);
     state.m_lastUtcUpdate.store(now);
     state.m_lastUtcUpdateCheckTime = now;
@@ -212,27 +289,27 @@ bool CExTime::SetUtcCoeffs(double a0, double a1, double p0) {
 
 void CExTime::StoreFittedCoeffs(double a0, double a1, double p0) {
     ClockSource& clock = Clock();
-    std::lock_guard<SpinLock> lock(state.m_lock);
+    const Publishing lock;
     // An external source may have taken over since the worker looked.
     if (state.m_lastUtcUpdate.load() != 0.0) return;
-    state.m_a0 = a0;
-    state.m_a1 = a1;
-    state.m_p0 = p0;
+    Put(state.m_a0, a0);
+    Put(state.m_a1, a1);
+    Put(state.m_p0, p0);
     state.m_lastUtcUpdateCheckTime = CounterMs(clock);
 }
 
 void CExTime::ResetState(ClockSource* source) {
-    std::lock_guard<SpinLock> lock(state.m_lock);
+    const Publishing lock;
     state.m_source.store(source, std::memory_order_release);
     state.m_msPerTick.store(0.0, std::memory_order_relaxed);
-    state.m_time1970Base = 0.0;
-    state.m_prevVexTime = 0.0;
-    state.m_a0 = 0.0;
-    state.m_a1 = 1.0;
-    state.m_p0 = 0.0;
+    Put(state.m_time1970Base, 0.0);
+    Put(state.m_prevVexTime, 0.0);
+    Put(state.m_a0, 0.0);
+    Put(state.m_a1, 1.0);
+    Put(state.m_p0, 0.0);
     state.m_lastUtcUpdate.store(0.0);
     state.m_lastUtcUpdateCheckTime = 0.0;
-    state.m_bTimeSyncDone = false;
+    state.m_bTimeSyncDone.store(false, std::memory_order_relaxed);
     state.m_firstTimeInit.store(false);
     state.m_masterClock = true;
 }
@@ -249,17 +326,16 @@ double CExTime::GetUtcUpdateAge() {
 
 bool CExTime::SetBaseTime(double t) {
     const double now = CounterMs(Clock());
-    std::lock_guard<SpinLock> lock(state.m_lock);
-    state.m_bTimeSyncDone = true;
-    state.m_time1970Base = t;
+    const Publishing lock;
+    state.m_bTimeSyncDone.store(true, std::memory_order_relaxed);
+    Put(state.m_time1970Base, t);
     state.m_masterClock = false;
-    state.m_prevVexTime = now + t;
+    Put(state.m_prevVexTime, now + t);
     return true;
 }
 
 double CExTime::GetWin1970BaseTime() {
-    std::lock_guard<SpinLock> lock(state.m_lock);
-    return state.m_time1970Base;
+    return Get(state.m_time1970Base);
 }
 
 std::uint32_t CExTime::GetWinTime(double t) {

@@ -3,7 +3,8 @@
 //
 // A time value is a double of milliseconds since 1970-01-01 00:00:00 UTC.
 // Every function is static and thread-safe: the process-wide state (base
-// time, previous reading, synchronisation coefficients) is behind one lock.
+// time, previous reading, synchronisation coefficients) is changed under
+// one lock and read by GetCurTime without it.
 // Local-time functions use the process's time zone (TZ, else the system's).
 #pragma once
 
@@ -42,7 +43,9 @@ class VEXBASE_API CExTime {
     // Synchronised time of counter reading counterMs (ms of counter time).
     // The first call in the process takes the base from the system clock
     // (after a 5 ms pause). A 32-bit counter that wrapped since the previous
-    // reading is unwrapped (jumps of more than 2^31 ms are taken as a wrap).
+    // reading is unwrapped (jumps of more than 2^31 ms are taken as a wrap;
+    // readings within 1 s of the last one kept are not kept themselves, so
+    // the jump is measured from a reading up to 1 s older than the latest).
     // Coefficients with a0 0 or NaN mean "not synchronised" and are not
     // applied.
     static double GetExTime(double counterMs);

@@ -330,5 +330,35 @@ TEST_F(FileObjectFiles, OpenFailsWithoutReportingAndMapsShareFlags) {
     }
 }
 
+// The writer narrows ASCII in blocks and encodes the rest: values with
+// non-ASCII text, LF and surrogate pairs at every place relative to a block
+// must come out as their UTF-8 with CR LF, and read back the same.
+TEST_F(FileObjectFiles, WritesAnyTextAsUtf8WithCrLf) {
+    const std::u16string pieces[] = {u"\u00E9", u"\u20AC", u"\U0001F30A", u"\n", u"x"};
+    FileObject file;
+    std::string expected = "[S]\r\n";
+    for (int at = 0; at < 40; ++at) {
+        for (int i = 0; i < 5; ++i) {
+            std::u16string value(static_cast<std::size_t>(at), u'a');
+            value += pieces[i];
+            value += std::u16string(static_cast<std::size_t>(at % 7), u'b');
+            CString key;
+            key.Format(u"k%d_%d", at, i);
+            ASSERT_TRUE(file.SetItem(u"S", key, CString(value), true));
+            std::string line = key.ToUtf8() + " = " + CString(value).ToUtf8();
+            for (std::size_t lf = line.find('\n'); lf != std::string::npos;
+                 lf = line.find('\n', lf + 2))
+                line.insert(lf, "\r");
+            expected += line + "\r\n";
+        }
+    }
+    expected += "\r\n";
+    MemFile memory;
+    ASSERT_TRUE(file.FileSave(memory));
+    EXPECT_EQ(test::TextOf(memory.Data()), expected);
+    ASSERT_TRUE(file.FileSave(folder.File("text.ini")));
+    EXPECT_EQ(test::ReadBytes(folder.Path("text.ini")), expected);
+}
+
 }  // namespace
 }  // namespace vex

@@ -2,10 +2,17 @@
 
 #include "SimulatedClock.h"
 
+#include <base/platform/Clock.h>
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <cmath>
 #include <limits>
+#include <thread>
+#include <vector>
 
 namespace vex {
 namespace {
@@ -155,6 +162,69 @@ TEST(CExTime, AdjustRtcSetsTheSystemClockToTheSynchronisedTimeWhenAllowed) {
     clock.AllowSettingTheClock(false);
     EXPECT_FALSE(CExTime::AdjustRTC());
     EXPECT_EQ(clock.SetCount(), 1);
+}
+
+// Readers do not take the lock: each must see one set of coefficients or
+// the other while they change, never a mixture.
+TEST(CExTime, ReadersSeeWholeCoefficientSetsWhileTheyChange) {
+    SimulatedClock clock(1000);
+    ClockGuard guard(&clock);
+    clock.SetCounterTicks(10'000);
+    clock.SetSystemMs(kNow);
+    ASSERT_EQ(CExTime::GetCurTime(), kNow);
+    // At the counter reading kNow: 1 s later (set one) or 2 s earlier at
+    // half the rate about kNow - 1 s (set two).
+    const double one = kNow + 1000.0;
+    const double two = (kNow - (kNow - 1000.0)) * 0.5 + kNow - 2000.0;
+    std::atomic<bool> stop{false};
+    std::atomic<int> mixed{0};
+    std::vector<std::thread> readers;
+    for (int r = 0; r < 2; ++r) {
+        readers.emplace_back([&] {
+            while (!stop.load()) {
+                const double t = CExTime::GetCurTime();
+                if (t != one && t != two && t != kNow) ++mixed;
+            }
+        });
+    }
+    for (int i = 0; i < 200000; ++i) {
+        CExTime::SetUtcCoeffs(kNow + 1000.0, 1.0, kNow);
+        CExTime::SetUtcCoeffs(kNow - 2000.0, 0.5, kNow - 1000.0);
+    }
+    stop.store(true);
+    for (std::thread& t : readers)
+        t.join();
+    EXPECT_EQ(mixed.load(), 0);
+}
+
+// The system counter runs forward in each thread at the rate it claims,
+// measured against the system clock (a calibrated counter must agree to
+// far better than a tenth of a percent).
+TEST(PlatformClock, CounterRunsForwardAtItsStatedRate) {
+    const std::int64_t frequency = platform::CounterFrequency();
+    ASSERT_GT(frequency, 0);
+    EXPECT_EQ(platform::CounterFrequency(), frequency);
+    std::int64_t previous = platform::CounterNow();
+    for (int i = 0; i < 100000; ++i) {
+        const std::int64_t now = platform::CounterNow();
+        ASSERT_GE(now, previous);
+        previous = now;
+    }
+    // The shortest of a few 100 ms spans: a pre-emption only lengthens the
+    // gap between the two clocks' readings.
+    double best = std::numeric_limits<double>::infinity();
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        const std::uint64_t file0 = platform::SystemTimeAsFileTime();
+        const std::int64_t counter0 = platform::CounterNow();
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        const std::int64_t counter1 = platform::CounterNow();
+        const std::uint64_t file1 = platform::SystemTimeAsFileTime();
+        const double counterMs =
+            static_cast<double>(counter1 - counter0) * 1000.0 / static_cast<double>(frequency);
+        const double systemMs = static_cast<double>(file1 - file0) / 10000.0;
+        best = std::min(best, std::fabs(systemMs - counterMs) / systemMs);
+    }
+    EXPECT_LT(best, 1e-3);
 }
 
 }  // namespace
