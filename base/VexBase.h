@@ -22,12 +22,12 @@
 #include <base/geodesy/CoordinateSystem.h>
 #include <base/geodesy/GeodesyRegistries.h>
 #include <base/geometry/Geometry.h>
-#include <base/survey/LineData.h>
 #include <base/strings/FormatString.h>
-#include <base/survey/VesselContour.h>
+#include <base/survey/LineData.h>
 #include <base/survey/TideFile.h>
 #include <base/survey/TideInterpolation.h>
 #include <base/survey/TidePlot.h>
+#include <base/survey/VesselContour.h>
 #include <base/time/Time.h>
 #include <base/units/Units.h>
 

@@ -212,25 +212,49 @@ VEX_VCLMUL_TARGET inline __m512i Fold512(__m512i x, __m512i k, __m512i next) {
                                      _mm512_clmulepi64_epi128(x, k, 0x11), next, 0x96);
 }
 
+// A folding pair in every 128-bit lane (set directly: GCC 12 warns about
+// the broadcast intrinsic's undefined source in optimised builds).
+VEX_VCLMUL_TARGET inline __m512i PairInEveryLane(long long high, long long low) {
+    return _mm512_set_epi64(high, low, high, low, high, low, high, low);
+}
+VEX_VCLMUL_TARGET inline __m512i Pair2048Bits() {
+    return PairInEveryLane(0x1322D1430LL, 0x11542778ALL);
+}
+
+// The first block with the register taken into its low 32 bits.
+VEX_VCLMUL_TARGET inline __m512i StartLane(__m512i block, std::uint32_t r) {
+    return _mm512_xor_si512(block, _mm512_zextsi128_si512(_mm_cvtsi32_si128(static_cast<int>(r))));
+}
+
+// The four lanes folded into one (512 bits apart), its four 128-bit parts
+// into one, then the n remaining bytes at p (a multiple of 16) and the
+// reduction.
+VEX_VCLMUL_TARGET std::uint32_t FinishVclmul(__m512i z1, __m512i z2, __m512i z3, __m512i z4,
+                                             const unsigned char* p, std::size_t n) {
+    const __m512i k64 = PairInEveryLane(0x1C6E41596LL, 0x154442BD4LL);
+    const __m128i k3k4 = _mm_set_epi64x(0x0CCAA009ELL, 0x1751997D0LL);
+    z1 = Fold512(z1, k64, z2);
+    z1 = Fold512(z1, k64, z3);
+    z1 = Fold512(z1, k64, z4);
+    // The 128-bit parts through memory: GCC 12 warns about the extract
+    // intrinsic's undefined source in optimised builds.
+    alignas(64) __m128i lanes[4];
+    _mm512_store_si512(lanes, z1);
+    __m128i x1 = lanes[0];
+    x1 = Fold(x1, k3k4, lanes[1]);
+    x1 = Fold(x1, k3k4, lanes[2]);
+    x1 = Fold(x1, k3k4, lanes[3]);
+    return FoldAndReduce(x1, p, n);
+}
+
 // The same folding four 512-bit lanes (sixteen 128-bit folds) at a time,
 // 256 bytes ahead, for processors with the vector form of the instruction;
 // enough independent products are in flight to keep its units busy. n must
 // be a multiple of 16 and at least 256.
 VEX_VCLMUL_TARGET std::uint32_t UpdateVclmul(std::uint32_t r, const unsigned char* p,
                                              std::size_t n) {
-    // The same pair in every 128-bit lane (set directly: GCC 12 warns about
-    // the broadcast intrinsic's undefined source in optimised builds).
-    const __m512i k256 =
-        _mm512_set_epi64(0x1322D1430LL, 0x11542778ALL, 0x1322D1430LL, 0x11542778ALL, 0x1322D1430LL,
-                         0x11542778ALL, 0x1322D1430LL,
-                         0x11542778ALL);  // 2048 bits
-    const __m512i k64 = _mm512_set_epi64(0x1C6E41596LL, 0x154442BD4LL, 0x1C6E41596LL, 0x154442BD4LL,
-                                         0x1C6E41596LL, 0x154442BD4LL, 0x1C6E41596LL,
-                                         0x154442BD4LL);                // 512 bits
-    const __m128i k3k4 = _mm_set_epi64x(0x0CCAA009ELL, 0x1751997D0LL);  // 128 bits
-
-    __m512i z1 = _mm512_xor_si512(_mm512_loadu_si512(p),
-                                  _mm512_zextsi128_si512(_mm_cvtsi32_si128(static_cast<int>(r))));
+    const __m512i k256 = Pair2048Bits();
+    __m512i z1 = StartLane(_mm512_loadu_si512(p), r);
     __m512i z2 = _mm512_loadu_si512(p + 64);
     __m512i z3 = _mm512_loadu_si512(p + 128);
     __m512i z4 = _mm512_loadu_si512(p + 192);
@@ -242,18 +266,7 @@ VEX_VCLMUL_TARGET std::uint32_t UpdateVclmul(std::uint32_t r, const unsigned cha
         z3 = Fold512(z3, k256, _mm512_loadu_si512(p + 128));
         z4 = Fold512(z4, k256, _mm512_loadu_si512(p + 192));
     }
-    z1 = Fold512(z1, k64, z2);
-    z1 = Fold512(z1, k64, z3);
-    z1 = Fold512(z1, k64, z4);
-    // The four 128-bit lanes through memory: GCC 12 warns about the extract
-    // intrinsic's undefined source in optimised builds.
-    alignas(64) __m128i lanes[4];
-    _mm512_store_si512(lanes, z1);
-    __m128i x1 = lanes[0];
-    x1 = Fold(x1, k3k4, lanes[1]);
-    x1 = Fold(x1, k3k4, lanes[2]);
-    x1 = Fold(x1, k3k4, lanes[3]);
-    return FoldAndReduce(x1, p, n);
+    return FinishVclmul(z1, z2, z3, z4, p, n);
 }
 
 #define VEX_VCLMUL_TEXT_TARGET \
@@ -278,15 +291,8 @@ __attribute__((no_sanitize_address)) VEX_VCLMUL_TEXT_TARGET const unsigned char*
     __m512i b3 = _mm512_load_si512(p + 128);
     __m512i b4 = _mm512_load_si512(p + 192);
     if (HasZeroByte(b1, b2, b3, b4)) return p;
-    const __m512i k256 =
-        _mm512_set_epi64(0x1322D1430LL, 0x11542778ALL, 0x1322D1430LL, 0x11542778ALL, 0x1322D1430LL,
-                         0x11542778ALL, 0x1322D1430LL, 0x11542778ALL);
-    const __m512i k64 =
-        _mm512_set_epi64(0x1C6E41596LL, 0x154442BD4LL, 0x1C6E41596LL, 0x154442BD4LL, 0x1C6E41596LL,
-                         0x154442BD4LL, 0x1C6E41596LL, 0x154442BD4LL);
-    const __m128i k3k4 = _mm_set_epi64x(0x0CCAA009ELL, 0x1751997D0LL);
-    __m512i z1 =
-        _mm512_xor_si512(b1, _mm512_zextsi128_si512(_mm_cvtsi32_si128(static_cast<int>(r))));
+    const __m512i k256 = Pair2048Bits();
+    __m512i z1 = StartLane(b1, r);
     __m512i z2 = b2, z3 = b3, z4 = b4;
     for (p += 256;; p += 256) {
         b1 = _mm512_load_si512(p);
@@ -299,16 +305,7 @@ __attribute__((no_sanitize_address)) VEX_VCLMUL_TEXT_TARGET const unsigned char*
         z3 = Fold512(z3, k256, b3);
         z4 = Fold512(z4, k256, b4);
     }
-    z1 = Fold512(z1, k64, z2);
-    z1 = Fold512(z1, k64, z3);
-    z1 = Fold512(z1, k64, z4);
-    alignas(64) __m128i lanes[4];
-    _mm512_store_si512(lanes, z1);
-    __m128i x1 = lanes[0];
-    x1 = Fold(x1, k3k4, lanes[1]);
-    x1 = Fold(x1, k3k4, lanes[2]);
-    x1 = Fold(x1, k3k4, lanes[3]);
-    r = FoldAndReduce(x1, p, 0);
+    r = FinishVclmul(z1, z2, z3, z4, p, 0);
     return p;
 }
 

@@ -5,8 +5,8 @@
 
 #include <base/framework/AtomicFile.h>
 #include <base/framework/ByteStream.h>
-#include <base/framework/CArray.h>
 #include <base/framework/CArchive.h>
+#include <base/framework/CArray.h>
 #include <base/framework/CDC.h>
 #include <base/framework/CDataExchange.h>
 #include <base/framework/CFile.h>
@@ -27,8 +27,8 @@
 #include <base/framework/Position.h>
 #include <base/framework/Scan.h>
 #include <base/framework/StringResources.h>
-#include <base/framework/SvgDC.h>
 #include <base/framework/SuiteTypes.h>
+#include <base/framework/SvgDC.h>
 #include <base/framework/TextEncoding.h>
 #include <base/framework/TextEncodingType.h>
 #include <base/framework/TreeItem.h>

@@ -5,34 +5,7 @@ file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
 file(COPY ${SAMPLES}/dredger-contour.ini DESTINATION ${WORK})
 
-# vex(<expected exit> <stdout must contain> <stderr must contain> args...);
-# leaves the standard output in vex_out.
-function(vex expected_rc stdout_part stderr_part)
-  execute_process(COMMAND ${EMULATOR} ${VEX} ${ARGN} WORKING_DIRECTORY ${WORK}
-                  RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
-  set(ok TRUE)
-  if(NOT rc EQUAL expected_rc)
-    set(ok FALSE)
-  endif()
-  foreach(pair "${out}|${stdout_part}" "${err}|${stderr_part}")
-    string(FIND "${pair}" "|" bar REVERSE)
-    string(SUBSTRING "${pair}" 0 ${bar} text)
-    math(EXPR from "${bar} + 1")
-    string(SUBSTRING "${pair}" ${from} -1 part)
-    if(NOT part STREQUAL "")
-      string(FIND "${text}" "${part}" at)
-      if(at EQUAL -1)
-        set(ok FALSE)
-      endif()
-    endif()
-  endforeach()
-  if(NOT ok)
-    message(SEND_ERROR "vex ${ARGN}: exit ${rc} (expected ${expected_rc})\n"
-                       "stdout: ${out}\nstderr: ${err}\n"
-                       "expected stdout with '${stdout_part}', stderr with '${stderr_part}'")
-  endif()
-  set(vex_out "${out}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/VexRun.cmake)
 
 # Showing one side: the pen, the count, the extents and the points.
 vex(0 "pen     width 2, colour 8388608 (red 0, green 0, blue 128)" "" contour show dredger-contour.ini)
@@ -68,7 +41,7 @@ vex(3 "" "no-such-folder" contour svg dredger-contour.ini -o no-such-folder/x.sv
 # Packing: colour 0x00800000 and width 2 as little-endian 32-bit words, then
 # 18 bytes per point; unpacking gives the same string back.
 vex(0 "0000800002000000000000000000" "" contour pack dredger-contour.ini --side 4)
-string(STRIP "${vex_out}" front)
+string(STRIP "${last_output}" front)
 string(LENGTH "${front}" digits)
 if(NOT digits EQUAL 628)
   message(SEND_ERROR "pack --side 4: ${digits} hex digits, expected 2 x (8 + 18 x 17) = 628")

@@ -5,32 +5,7 @@ file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
 file(COPY ${SAMPLES}/geometry.txt DESTINATION ${WORK})
 
-# vex(<expected exit> <stdout must contain> <stderr must contain> args...)
-function(vex expected_rc stdout_part stderr_part)
-  execute_process(COMMAND ${EMULATOR} ${VEX} ${ARGN} WORKING_DIRECTORY ${WORK}
-                  RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
-  set(ok TRUE)
-  if(NOT rc EQUAL expected_rc)
-    set(ok FALSE)
-  endif()
-  if(NOT stdout_part STREQUAL "")
-    string(FIND "${out}" "${stdout_part}" at)
-    if(at EQUAL -1)
-      set(ok FALSE)
-    endif()
-  endif()
-  if(NOT stderr_part STREQUAL "")
-    string(FIND "${err}" "${stderr_part}" at)
-    if(at EQUAL -1)
-      set(ok FALSE)
-    endif()
-  endif()
-  if(NOT ok)
-    message(SEND_ERROR "vex ${ARGN}: exit ${rc} (expected ${expected_rc})\n"
-                       "stdout: ${out}\nstderr: ${err}\n"
-                       "expected stdout with '${stdout_part}', stderr with '${stderr_part}'")
-  endif()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/VexRun.cmake)
 
 # The sample: every item read, the crossings found, an SVG with true arcs.
 vex(0 "3 points, 4 lines, 3 arcs, 13 crossings" "" draw geometry.txt -o plan.svg)
