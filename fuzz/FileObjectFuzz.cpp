@@ -1,17 +1,36 @@
-// A settings file from any bytes: parsing never fails badly, and the writer
-// and the reader agree. The format itself loses some content on the way
+// A settings file from any bytes: parsing never fails badly, reading it
+// from disk gives what reading it from memory gives, and the writer and the
+// reader agree. The format itself loses some content on the way
 // (a key that begins with ";" reads back as a comment, a value's trailing
 // backslash joins the next line, ...), so the property is that saving and
 // reading settles: each round either gives back the same bytes or fewer,
 // and it never cycles.
 #include "FuzzSupport.h"
 
+#include <filesystem>
+#include <fstream>
+#include <string>
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vex;
     FileObject file;
-    if (!fuzz::ParseFileObject(file, fuzz::Bytes(data, size))) {
+    const bool parsed = fuzz::ParseFileObject(file, fuzz::Bytes(data, size));
+
+    // The same bytes read from disk, where the reader takes the file in
+    // pieces, give the same result as from memory.
+    static const auto path =
+        std::filesystem::temp_directory_path() /
+        ("vexbase-fuzz-" + std::to_string(reinterpret_cast<std::uintptr_t>(&file)) + ".ini");
+    std::ofstream(path, std::ios::binary | std::ios::trunc)
+        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+    FileObject fromDisk;
+    const bool read = fromDisk.FileOpen(CString(path.u16string()));
+    fuzz::Require(read == parsed, "a file reads from disk as from memory");
+    if (!parsed) {
         return 0;
     }
+    fuzz::Require(fuzz::SavedBytes(fromDisk) == fuzz::SavedBytes(file),
+                  "a file read from disk has the content read from memory");
     auto saved = fuzz::SavedBytes(file);
     // Ends: the saved size falls in every round that changes anything.
     for (;;) {
