@@ -1,6 +1,7 @@
-// DrawingSupport.h - internal helpers shared by the drawing members of the
-// geometry types: positions on the view before rounding, the view's box and
-// segment clipping. Not installed; include it only from .cpp files.
+// DrawingSupport.h - internal helpers shared by the library's drawing
+// routines (the geometry types' members, vessel contours): positions on the
+// view before rounding, the view's box, segment clipping and putting a
+// CDC's settings back. Not installed; include it only from .cpp files.
 #pragma once
 
 #include <base/framework/CDC.h>

@@ -2,6 +2,7 @@
 
 #include <base/framework/CDC.h>
 #include <base/geodesy/CoordinateSystem.h>
+#include <base/geometry/DrawingSupport.h>
 
 #include <algorithm>
 #include <climits>
@@ -9,44 +10,6 @@
 #include <vector>
 
 namespace vex {
-namespace {
-
-// Puts back the pen and brush a drawing routine borrowed, so that callers
-// drawing several contours keep their own settings.
-class DrawingStateGuard {
-  public:
-    explicit DrawingStateGuard(CDC& dc)
-        : dc_(dc),
-          hasPen_(dc.HasPen()),
-          penWidth_(dc.GetPenWidth()),
-          penColour_(dc.GetPenColor()),
-          hasBrush_(dc.HasBrush()),
-          brushColour_(dc.GetBrushColor()) {}
-    ~DrawingStateGuard() {
-        if (hasPen_) {
-            dc_.SetPen(penWidth_, penColour_);
-        } else {
-            dc_.SetNullPen();
-        }
-        if (hasBrush_) {
-            dc_.SetBrush(brushColour_);
-        } else {
-            dc_.SetNullBrush();
-        }
-    }
-    DrawingStateGuard(const DrawingStateGuard&) = delete;
-    DrawingStateGuard& operator=(const DrawingStateGuard&) = delete;
-
-  private:
-    CDC& dc_;
-    bool hasPen_;
-    int penWidth_;
-    COLORREF penColour_;
-    bool hasBrush_;
-    COLORREF brushColour_;
-};
-
-}  // namespace
 
 Point VesselContour::DrawingPosition(const VesselPoint& point) const {
     const Point& p = point.GetPoint();
@@ -65,7 +28,8 @@ bool VesselContour::Draw(CDC& dc, const CoordinateSystem& view) const {
         pixels.push_back(view.WorldToPixel(DrawingPosition(point)));
     }
 
-    const DrawingStateGuard restore(dc);
+    // The caller's pen, brush and other settings come back afterwards.
+    const detail::DcStateGuard restore(dc);
     const COLORREF colour = static_cast<COLORREF>(static_cast<std::uint32_t>(penColor_));
     dc.SetPen(penWidth_, colour);
     dc.SetNullBrush();
