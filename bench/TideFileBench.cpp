@@ -117,7 +117,10 @@ void SaveFwriteFromMap(benchmark::State& state) {
         values.emplace_hint(values.end(), file.Records()[2 * i], file.Records()[2 * i + 1]);
     for (auto _ : state) {
         std::FILE* f = std::fopen(file.SavePath().c_str(), "wb");
-        if (!f) state.SkipWithError("open failed");
+        if (!f) {
+            state.SkipWithError("open failed");
+            break;
+        }
         for (const auto& [time, height] : values) {
             const double record[2] = {time, height};
             std::fwrite(record, sizeof record, 1, f);
