@@ -5,21 +5,13 @@
 #include <base/errors/ErrorMessageFile.h>
 #include <base/errors/FileError.h>
 
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vex;
     // The message file is read from disk only: one file per fuzzing process.
-    static const std::filesystem::path path =
-        std::filesystem::temp_directory_path() /
-        ("vexbase-fuzz-messages-" + std::to_string(reinterpret_cast<std::uintptr_t>(&path)) +
-         ".ini");
-    {
-        std::ofstream out(path, std::ios::binary | std::ios::trunc);
-        out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-    }
+    const auto path = fuzz::TempPath("messages.ini");
+    fuzz::WriteFile(path, data, size);
     ErrorMessageFile& messages = ErrorMessageFile::Get();
     if (messages.Open(CString(path.u16string()))) {
         CString text;

@@ -7,10 +7,6 @@
 // and it never cycles.
 #include "FuzzSupport.h"
 
-#include <filesystem>
-#include <fstream>
-#include <string>
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vex;
     FileObject file;
@@ -18,11 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // The same bytes read from disk, where the reader takes the file in
     // pieces, give the same result as from memory.
-    static const auto path =
-        std::filesystem::temp_directory_path() /
-        ("vexbase-fuzz-" + std::to_string(reinterpret_cast<std::uintptr_t>(&file)) + ".ini");
-    std::ofstream(path, std::ios::binary | std::ios::trunc)
-        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+    const auto path = fuzz::TempPath("settings.ini");
+    fuzz::WriteFile(path, data, size);
     FileObject fromDisk;
     const bool read = fromDisk.FileOpen(CString(path.u16string()));
     fuzz::Require(read == parsed, "a file reads from disk as from memory");

@@ -11,6 +11,8 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <span>
 #include <string>
 #include <string_view>
@@ -45,6 +47,21 @@ inline CString WideText(const std::uint8_t* data, std::size_t size) {
 // The bytes as UTF-8 text (invalid sequences are the decoder's business).
 inline CString Utf8Text(const std::uint8_t* data, std::size_t size) {
     return CString::FromUtf8(std::string_view(reinterpret_cast<const char*>(data), size));
+}
+
+// A file in the temporary folder for the readers that take only a path; the
+// tag (an address, which differs from process to process) keeps fuzzing
+// processes that run side by side apart.
+inline std::filesystem::path TempPath(const char* name) {
+    static const std::string tag = std::to_string(reinterpret_cast<std::uintptr_t>(&tag));
+    return std::filesystem::temp_directory_path() / ("vexbase-fuzz-" + tag + "-" + name);
+}
+
+// Writes the bytes to path, replacing what was there.
+inline void WriteFile(const std::filesystem::path& path, const std::uint8_t* data,
+                      std::size_t size) {
+    std::ofstream(path, std::ios::binary | std::ios::trunc)
+        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
 }
 
 // Parses bytes as a settings file held in memory.

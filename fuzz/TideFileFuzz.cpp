@@ -6,17 +6,10 @@
 #include <base/survey/TideFile.h>
 
 #include <cmath>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
 namespace {
-
-std::filesystem::path TempPath(const char* name) {
-    static const std::string tag = std::to_string(reinterpret_cast<std::uintptr_t>(&tag));
-    return std::filesystem::temp_directory_path() / ("vexbase-fuzz-" + tag + "-" + name);
-}
 
 std::vector<std::pair<double, double>> Series(vex::TideFile& tide) {
     std::vector<std::pair<double, double>> series;
@@ -32,9 +25,8 @@ std::vector<std::pair<double, double>> Series(vex::TideFile& tide) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace vex;
-    const auto input = TempPath("input.tid");
-    std::ofstream(input, std::ios::binary | std::ios::trunc)
-        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+    const auto input = fuzz::TempPath("input.tid");
+    fuzz::WriteFile(input, data, size);
     TideFile tide;
     if (!tide.FileOpen(CString(input.u16string()), false)) return 0;
     const auto series = Series(tide);

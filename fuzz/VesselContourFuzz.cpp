@@ -7,16 +7,9 @@
 #include <base/geodesy/CoordinateSystem.h>
 #include <base/survey/VesselContour.h>
 
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 namespace {
-
-std::filesystem::path TempPath(const char* name) {
-    static const std::string tag = std::to_string(reinterpret_cast<std::uintptr_t>(&tag));
-    return std::filesystem::temp_directory_path() / ("vexbase-fuzz-" + tag + "-" + name);
-}
 
 void Draw(const vex::VesselContour& contour) {
     vex::Page extents;
@@ -38,14 +31,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string rest(reinterpret_cast<const char*>(data + 1), size - 1);
 
     // The bytes as a contour file.
-    const auto input = TempPath("input.ini");
-    std::ofstream(input, std::ios::binary | std::ios::trunc) << rest;
+    const auto input = fuzz::TempPath("input.ini");
+    fuzz::WriteFile(input, data + 1, size - 1);
     VesselContour contour;
     contour.Create(CString(input.u16string()), side, convert);
     Draw(contour);
     if (contour.IsLoaded() && !convert) {
-        const auto first = TempPath("first.ini");
-        const auto second = TempPath("second.ini");
+        const auto first = fuzz::TempPath("first.ini");
+        const auto second = fuzz::TempPath("second.ini");
         fuzz::Require(contour.Save(CString(first.u16string())), "a loaded contour saves");
         VesselContour reloaded;
         reloaded.Create(CString(first.u16string()), side, false);
