@@ -229,13 +229,11 @@ bool SvgDC::TextOut(int x, int y, const CString& text) {
     // SVG places text on its baseline; the top and bottom alignments move it
     // by the usual ascent (0.8 of the height) and descent (0.2).
     const double size = GetFontSize();
-    double baseline = y;
+    double baseline = y + 0.8 * size;
     if ((align & TA_BASELINE) == TA_BASELINE) {
         baseline = y;
     } else if ((align & TA_BOTTOM) != 0) {
         baseline = y - 0.2 * size;
-    } else {
-        baseline = y + 0.8 * size;
     }
     body_ += "<text x=\"";
     Append(body_, x);
